@@ -1,0 +1,88 @@
+# One function for each kind of target. Includes are written from the root of the tree: "archive/logic/ZiehungsArchiv.h".
+#
+#   tombrix_logik(archive_logic SOURCES ... LINKS ...)          plain C++; Qt in its link closure stops the configure run
+#   tombrix_bildschirme(statistics_screens SOURCES ... LINKS ...)   elements and screens, on Qt Widgets
+#   tombrix_test(archive_tests LABEL logic SOURCES ... LINKS ...)   a GoogleTest program, one ctest entry a test
+#   tombrix_bench(bench_archive SOURCES ... LINKS ...)          a Google Benchmark program
+
+set_property(GLOBAL PROPERTY TOMBRIX_LOGIK "")
+
+function(tombrix_logik name)
+    cmake_parse_arguments(ziel "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ziel_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ziel_LINKS})
+    set_property(GLOBAL APPEND PROPERTY TOMBRIX_LOGIK ${name})
+endfunction()
+
+function(tombrix_bildschirme name)
+    cmake_parse_arguments(ziel "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ziel_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+    target_compile_definitions(${name} PUBLIC QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+    target_link_libraries(${name} PUBLIC ${ziel_LINKS} Qt6::Widgets)
+    # The first one compiles Qt's headers for all.
+    if(TARGET shell_elements AND NOT name STREQUAL "shell_elements")
+        target_precompile_headers(${name} REUSE_FROM shell_elements)
+    else()
+        target_precompile_headers(${name} PRIVATE <QtWidgets>)
+    endif()
+endfunction()
+
+# LABEL is one of logic, gui, architektur, real, long. A `gui` program brings its own main() with a QApplication.
+function(tombrix_test name)
+    cmake_parse_arguments(ziel "" "LABEL" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ziel_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE ${ziel_LINKS} GTest::gmock GTest::gtest)
+    if(ziel_LABEL STREQUAL "gui")
+        target_link_libraries(${name} PRIVATE test_haupt_gui)
+    else()
+        target_link_libraries(${name} PRIVATE GTest::gtest_main)
+    endif()
+    include(GoogleTest)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+        PROPERTIES LABELS ${ziel_LABEL} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
+
+function(tombrix_bench name)
+    cmake_parse_arguments(ziel "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ziel_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE ${ziel_LINKS} benchmark::benchmark)
+endfunction()
+
+# Everything that `ziel` links, directly or through another target.
+function(tombrix_linkhuelle ziel ergebnis)
+    set(offen ${ziel})
+    set(gesehen "")
+    while(offen)
+        list(POP_FRONT offen naechstes)
+        if(naechstes IN_LIST gesehen)
+            continue()
+        endif()
+        list(APPEND gesehen ${naechstes})
+        if(TARGET ${naechstes})
+            foreach(art LINK_LIBRARIES INTERFACE_LINK_LIBRARIES)
+                get_target_property(mehr ${naechstes} ${art})
+                if(mehr)
+                    list(APPEND offen ${mehr})
+                endif()
+            endforeach()
+        endif()
+    endwhile()
+    set(${ergebnis} "${gesehen}" PARENT_SCOPE)
+endfunction()
+
+# Stops the configure run if a logic library links Qt.
+function(tombrix_pruefe_stockwerke)
+    get_property(alle GLOBAL PROPERTY TOMBRIX_LOGIK)
+    foreach(ziel ${alle})
+        tombrix_linkhuelle(${ziel} huelle)
+        foreach(teil ${huelle})
+            if(teil MATCHES "Qt6|^Qt::|_screens$|_elements$")
+                message(FATAL_ERROR "${ziel} is logic and must stand without a screen, but it links ${teil}.")
+            endif()
+        endforeach()
+    endforeach()
+endfunction()

@@ -1,0 +1,27 @@
+#include "shell/app/Programm.h"
+
+#include "shell/elements/Hinweiszeile.h"
+#include "shell/elements/Stil.h"
+
+#include <QIcon>
+#include <QLoggingCategory>
+
+Programm::Programm(int& anzahl, char** argumente) : QApplication(anzahl, argumente)
+{
+    setApplicationName("tombrix");
+    setApplicationDisplayName({});
+    setQuitOnLastWindowClosed(false);
+    setWindowIcon(QIcon(":/bilder/tombrix.svg"));
+    Stil::richteEin(*this);
+    new Hinweiszeile(this);
+}
+
+bool Programm::notify(QObject* ziel, QEvent* ereignis)
+{
+    try {
+        return QApplication::notify(ziel, ereignis);
+    } catch (const std::exception& fehler) {
+        qWarning("%s", fehler.what());
+        return false;
+    }
+}

@@ -1,0 +1,345 @@
+#include "shell/app/frmLSTART.h"
+
+#include "shell/app/Rollo.h"
+#include "shell/elements/BildschirmVerzeichnis.h"
+#include "shell/elements/Farben.h"
+#include "shell/elements/Stil.h"
+#include "shell/elements/Tippfeld7x7View.h"
+#include "shell/logic/Format.h"
+#include "shell/logic/Zufall.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QFrame>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedLayout>
+
+namespace {
+
+constexpr auto kTitel = "Lotto-Auswahlmenü";
+constexpr int kKnopfhoehe = 34;
+constexpr auto kSpendenseite = "https://www.paypal.com/donate";
+
+/// What the menu says of one game.
+struct Spieltexte {
+    const char* ladetitel;
+    const char* spielname;
+    const char* klammer;
+};
+
+const Spieltexte& spieltexte(std::int16_t spielart)
+{
+    static const std::array<Spieltexte, 3> texte{
+        {{" >>>>>>>>>>>     SALOTTO.DAT wird geladen      <<<<<<<<<<<", "Samstagslotto 6 aus 49",
+          "(SALOTTO.DAT; Samstagslotto)"},
+         {" >>>>>>>>>>>     MALOTTO.DAT wird geladen      <<<<<<<<<<<", "Mittwochslotto 6 aus 49 ",
+          "(MALOTTO.DAT; Mittwochslotto A)"},
+         {" >>>>>>>>>>>     MBLOTTO.DAT wird geladen      <<<<<<<<<<<", "Mittwochslotto 6 aus 49 (B)",
+          "(MBLOTTO.DAT; Mittwochslotto B)"}}};
+    return texte.at(static_cast<std::size_t>(spielart - 1));
+}
+
+} // namespace
+
+frmLSTART::frmLSTART(Umgebung& umgebung) : Bildschirm(umgebung, "frmLSTART", kTitel)
+{
+    umgebung.menue = this;
+    Option1 = option("Option1", "Samstagslotto");
+    Option2 = option("Option2", "Mittwochslotto ");
+    Option3 = option("Option3", "Mittwochslotto (B)",
+                     hinweis("Statistik für Mittwochslotto-Ziehung B (wurde bis 29.11.2000 ausgespielt !)."));
+    Option4 = option("Option4", "Sa + Mi zusammen",
+                     hinweis("Bei Auswahl dieser Option können die Samstags- und Mittwochsziehungen für die wichtigsten "
+                             "Statistiken zusammen auswertet werden."));
+    mnuOption = bauePopup();
+    auto* ordentlich = new QWidget(this);
+    ordentlich->setLayout(wand(menuewand(), false));
+    frameRollo = baueRollo();
+
+    wechsel_ = new QStackedLayout;
+    wechsel_->addWidget(ordentlich);
+    wechsel_->addWidget(frameRollo);
+
+    Bezeichnung2 = bezeichnung("Bezeichnung2");
+    Bezeichnung2->setContentsMargins(Stil::kRand, Stil::kAbstand, Stil::kRand, Stil::kAbstand);
+    Bezeichnung2->setWordWrap(true);
+    Bezeichnung2->setMinimumHeight(2 * fontMetrics().lineSpacing() + 2 * Stil::kAbstand);
+    picU = new QFrame(this);
+    picU->setObjectName("picU");
+    faerbe(picU, Farben::Fuss, Farben::FussText);
+    faerbe(Bezeichnung2, Farben::Fuss, Farben::FussText);
+    QLayout* fuss = spalte({Bezeichnung2});
+    picU->setLayout(fuss);
+
+    // clang-format off
+    QLayout* oben = zeile({
+        spalte({
+            baueSpielnamen(),
+            rahmen("RahmenSpielart", "Spielart", spalte({Option1, Option2, Option3, Option4})),
+            baueTipp(),
+            luecke(),
+        }),
+        dehnbar(wechsel_),
+    });
+    // clang-format on
+    oben->setContentsMargins(2 * Stil::kRand, 2 * Stil::kRand, 2 * Stil::kRand, 2 * Stil::kRand);
+    auto* ganz = spalte({dehnbar(oben), picU});
+    ganz->setSpacing(0);
+    setLayout(ganz);
+
+    bei(Option1, [this] { ladeArchiv(Samstagslotto); });
+    bei(Option2, [this] { ladeArchiv(Mittwochslotto); });
+    bei(Option3, [this] { ladeArchiv(MittwochslottoB); });
+    bei(Option4, [this] { zeigeZusammen(); });
+
+    tippe();
+    waehleSpielart(Samstagslotto);
+}
+
+frmLSTART::~frmLSTART() { umgebung().menue = nullptr; }
+
+QWidget* frmLSTART::baueSpielnamen()
+{
+    auto* flaeche = new Spielname(this);
+    Bezeichnung3 = flaeche->bezeichnungen();
+    return flaeche;
+}
+
+QGroupBox* frmLSTART::baueTipp()
+{
+    Bezeichnung1 = new Tippfeld7x7View("Bezeichnung1", Tippfeld7x7View::Art::NurAnzeige, this);
+    return rahmen("Rahmen1", "Tipp", spalte({Bezeichnung1}));
+}
+
+QMenu* frmLSTART::bauePopup()
+{
+    auto* menue = new QMenu(this);
+    menue->setObjectName("mnuOption");
+    for (const Popupeintrag& eintrag : menueOption()) {
+        if (QString(eintrag.text) == "-") {
+            menue->addSeparator()->setObjectName(eintrag.name);
+            continue;
+        }
+        QAction* zeile = menue->addAction(eintrag.text);
+        zeile->setObjectName(eintrag.name);
+        zeile->setCheckable(true);
+        zeile->setEnabled(umgebung().bildschirme->kennt(eintrag.ziel));
+        connect(zeile, &QAction::triggered, this, [this, eintrag] { oeffneAusPopup(eintrag); });
+    }
+    return menue;
+}
+
+QLayout* frmLSTART::wand(const std::vector<std::vector<Menuegruppe>>& spalten, bool rollo)
+{
+    Bloecke bloecke;
+    for (const std::vector<Menuegruppe>& gruppen : spalten) {
+        Bloecke untereinander;
+        for (const Menuegruppe& inhalt : gruppen)
+            untereinander.push_back(gruppe(inhalt, rollo));
+        untereinander.push_back(luecke());
+        bloecke.push_back(dehnbar(spalte(untereinander)));
+    }
+    return zeile(bloecke);
+}
+
+QGroupBox* frmLSTART::gruppe(const Menuegruppe& gruppe, bool rollo)
+{
+    Bloecke bloecke;
+    for (const Menueknopf& eintrag : gruppe.knoepfe) {
+        QPushButton* knopf = befehl(eintrag.name, eintrag.text, hinweis(eintrag.hinweis));
+        knopf->setEnabled(QString(eintrag.ziel).isEmpty() || umgebung().bildschirme->kennt(eintrag.ziel));
+        bei(knopf, [this, eintrag] { fuehreAus(eintrag); });
+        knopf->setMinimumHeight(kKnopfhoehe);
+        knoepfe_[eintrag.name] = knopf;
+        bloecke.push_back(knopf);
+    }
+    return rahmen(QString(rollo ? "Rollo%1" : "Gruppe%1").arg(gruppe.titel), gruppe.titel, eng(spalte(bloecke)));
+}
+
+QWidget* frmLSTART::baueRollo()
+{
+    auto* rollo = new Rollo(this);
+    rollo->setzeInhalt(wand(menuerollo(), true));
+    return rollo;
+}
+
+void frmLSTART::waehleSpielart(std::int16_t spielart)
+{
+    const std::array optionen{Option1, Option2, Option3};
+    optionen.at(static_cast<std::size_t>(spielart - 1))->setChecked(true);
+    ladeArchiv(spielart);
+}
+
+void frmLSTART::ladeArchiv(std::int16_t spielart)
+{
+    wechsel_->setCurrentIndex(0);
+    sperreKnoepfe(spielart);
+    setzeJahreshinweise(spielart);
+    setWindowTitle(spieltexte(spielart).ladetitel);
+    for (QLabel* name : Bezeichnung3)
+        name->setText(spieltexte(spielart).spielname);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    ladeSpielart(umgebung(), spielart);
+    QGuiApplication::restoreOverrideCursor();
+    setWindowTitle(kTitel);
+    if (umgebung().archiv.AnzahlZiehungen >= 1)
+        setzeTitel(statuszeile());
+}
+
+void frmLSTART::sperreKnoepfe(std::int16_t spielart)
+{
+    for (const char* name : {"Befehl3", "Befehl18"}) {
+        const QString ziel = QString(name) == "Befehl3" ? "frmAnzeige" : "frmTA";
+        knoepfe_[name]->setEnabled(spielart != MittwochslottoB && umgebung().bildschirme->kennt(ziel));
+    }
+    const auto entwickelt = [](const QAction* zeile) { return zeile->isEnabled() && !zeile->isSeparator(); };
+    const auto zeilen = mnuOption->actions();
+    knoepfe_["Befehl1"]->setEnabled(spielart != MittwochslottoB &&
+                                    std::any_of(zeilen.begin(), zeilen.end(), entwickelt));
+}
+
+void frmLSTART::setzeJahreshinweise(std::int16_t spielart)
+{
+    const QString jahr = istSamstag(spielart) ? "1955" : "1986";
+    setzeHinweis(knoepfe_["Befehl2"], "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung " + jahr);
+    setzeHinweis(knoepfe_["Befehl11"], "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit " + jahr);
+}
+
+void frmLSTART::zeigeZusammen()
+{
+    wechsel_->setCurrentWidget(frameRollo);
+    const QRect schirm = screen()->availableGeometry();
+    move(schirm.center() - QPoint(width() / 2, height() / 2));
+}
+
+std::int16_t frmLSTART::gewaehlteSpielart() const
+{
+    if (Option1->isChecked())
+        return Samstagslotto;
+    if (Option2->isChecked())
+        return Mittwochslotto;
+    return Option3->isChecked() ? MittwochslottoB : SpielartStart;
+}
+
+QString frmLSTART::statuszeile() const
+{
+    const ZiehungsArchiv& archiv = umgebung().archiv;
+    const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
+    return QString("*** Letzte eingetragene Ziehung in Gewinnzahl-Datei %1 ->  %2 vom %3 ***")
+        .arg(spieltexte(gewaehlteSpielart()).klammer, QString::fromStdString(jahrUndWoche(archiv, letzte)),
+             QString::fromStdString(archiv.Datum[letzte]));
+}
+
+void frmLSTART::zeigeStatus(const QString& text) { Bezeichnung2->setText(text); }
+
+void frmLSTART::mausUeber(QWidget* feld)
+{
+    if (feld == knoepfe_["Befehl13"])
+        tippe();
+    if (feld != this) {
+        Bildschirm::mausUeber(feld);
+    } else if (gewaehlteSpielart() != SpielartStart && umgebung().archiv.AnzahlZiehungen >= 1) {
+        setzeTitel(statuszeile());
+    }
+}
+
+void frmLSTART::tippe()
+{
+    umgebung().zufall.Randomize(umgebung().uhr.Timer());
+    Tippfeld7x7 feld;
+    feld.zeige(sechsZahlen(umgebung().zufall));
+    Bezeichnung1->zeige(feld);
+}
+
+void frmLSTART::fuehreAus(const Menueknopf& knopf)
+{
+    const QString name = knopf.name;
+    if (name == "Befehl13" || name == "cmdU")
+        schliesse();
+    else if (name == "Befehl15")
+        zeigeHilfe();
+    else if (name == "cmdPaypal")
+        umgebung().oeffner.oeffne(kSpendenseite);
+    else if (name == "cmdInfo2")
+        zeigeInfoZusammen();
+    else if (name == "Befehl1")
+        mnuOption->popup(QCursor::pos());
+    else
+        oeffne(knopf);
+}
+
+void frmLSTART::oeffne(const Menueknopf& knopf)
+{
+    umgebung().klang.SpieleKlang(1);
+    BildschirmVerzeichnis& bildschirme = *umgebung().bildschirme;
+    if (knopf.oeffnung == Oeffnung::NurDruecken) {
+        bildschirme.lade(knopf.ziel).druckeStart();
+        return;
+    }
+    if (knopf.oeffnung == Oeffnung::ErstVerbergen)
+        hide();
+    bildschirme.oeffne(knopf.ziel);
+    hide();
+}
+
+void frmLSTART::oeffneAusPopup(const Popupeintrag& eintrag)
+{
+    for (QAction* zeile : mnuOption->actions())
+        zeile->setChecked(zeile->objectName() == eintrag.name);
+    knoepfe_["Befehl1"]->setEnabled(true);
+    umgebung().klang.SpieleKlang(1);
+    umgebung().bildschirme->oeffne(eintrag.ziel);
+    hide();
+}
+
+void frmLSTART::zeigeWieder()
+{
+    show();
+    activateWindow();
+}
+
+void frmLSTART::zeigeHilfe()
+{
+    const QString verzeichnis = QString::fromStdString(umgebung().archiv.ProgrammVerzeichnis);
+    const QString hilfe = verzeichnis + "lotto-hilfe.chm";
+    umgebung().oeffner.oeffne(QFileInfo::exists(hilfe) ? hilfe : verzeichnis + "lotto-hilfe.html");
+}
+
+void frmLSTART::zeigeInfoZusammen()
+{
+    umgebung().boxen.info(
+        kProgrammtitel,
+        "Bis Juni 2013 wurden für die Mittwochs- und Samstagsziehungen des Lotto 6 aus 49 verschiedenen "
+        "Ziehungsgeräte und Kugelsätze verwendet. Die Samstagsziehungen fanden beim Hessischen Rundfunk in Frankfurt "
+        "statt. Die Mittwochsziehungen fanden beim ZDF in Mainz statt (anderes Ziehungsgerät, anderer Kugelsatz).\n"
+        "Da für die Ziehungen also verschiedene Geräte und Kugeln verwendet wurden, war es sinnvoll die "
+        "Lottostatistiken getrennt für Samstag und Mittwoch zu erstellen.\n"
+        "Seit dem 06.07.2013 werden alle Ziehungen (Sa+Mi) in einem Studio des Saarländischen Rundfunks "
+        "durchgeführt. Da die Ziehungen also jetzt mit nur einem Ziehungsgerät und gleichen Kugeln stattfinden, ist "
+        "eine strikte Trennung der Statistiken für das Samstags- und Mittwochlotto eigentlich nicht mehr notwendig.\n"
+        "Mit Auswahl des Optionsfeldes \"Sa + Mi zusammen\" können die wichtigsten Statistiken deshalb auch zusammen "
+        "für das Samstags- und Mittwochslotto ausgewertet werden.");
+}
+
+void frmLSTART::paintEvent(QPaintEvent*)
+{
+    constexpr int kBaender = 256;
+    QPainter maler(this);
+    for (int band = 0; band < kBaender; ++band) {
+        const int oben = height() * band / kBaender;
+        const int unten = height() * (band + 1) / kBaender;
+        maler.fillRect(0, oben, width(), unten - oben, QColor(0, kBaender - 1 - band, 0));
+    }
+}
+
+void frmLSTART::beimSchliessen()
+{
+    umgebung().bildschirme->entladeAlle();
+    QCoreApplication::quit();
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "shell/app/Menuetafel.h"
+#include "shell/elements/Bildschirm.h"
+
+#include <map>
+
+class QFrame;
+class QMenu;
+class QStackedLayout;
+class Tippfeld7x7View;
+
+/// The selection menu: the game, the wall of tools, a random Tipp. The program starts on it and ends with it.
+class frmLSTART final : public Bildschirm, public Menue {
+public:
+    explicit frmLSTART(Umgebung& umgebung);
+    ~frmLSTART() override;
+
+    void waehleSpielart(std::int16_t spielart) override;
+    void zeigeWieder() override;
+
+    void mausUeber(QWidget* feld) override;
+    bool kehrtZumMenueZurueck() const override { return false; }
+
+protected:
+    void beimSchliessen() override;
+    void zeigeStatus(const QString& text) override;
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    QLayout* wand(const std::vector<std::vector<Menuegruppe>>& spalten, bool rollo);
+    QGroupBox* gruppe(const Menuegruppe& gruppe, bool rollo);
+    QWidget* baueRollo();
+    QWidget* baueSpielnamen();
+    QMenu* bauePopup();
+    QGroupBox* baueTipp();
+
+    void ladeArchiv(std::int16_t spielart);
+    void zeigeZusammen();
+    void sperreKnoepfe(std::int16_t spielart);
+    void setzeJahreshinweise(std::int16_t spielart);
+    QString statuszeile() const;
+    std::int16_t gewaehlteSpielart() const;
+
+    void tippe();
+    void fuehreAus(const Menueknopf& knopf);
+    void oeffne(const Menueknopf& knopf);
+    void oeffneAusPopup(const Popupeintrag& eintrag);
+    void zeigeHilfe();
+    void zeigeInfoZusammen();
+
+    QRadioButton *Option1, *Option2, *Option3, *Option4;
+    std::array<QLabel*, 2> Bezeichnung3; ///< the shadow and the text above it
+    QFrame* picU;
+    QLabel* Bezeichnung2;
+    QWidget* frameRollo;
+    QMenu* mnuOption;
+    Tippfeld7x7View* Bezeichnung1;
+    std::map<QString, QPushButton*> knoepfe_;
+    QStackedLayout* wechsel_;
+};

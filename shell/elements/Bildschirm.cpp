@@ -1,0 +1,183 @@
+#include "shell/elements/Bildschirm.h"
+
+#include "shell/elements/BildschirmVerzeichnis.h"
+#include "shell/elements/Farben.h"
+#include "shell/elements/Fokus.h"
+#include "shell/elements/Liste.h"
+#include "shell/elements/Rahmen.h"
+#include "shell/elements/Stil.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace {
+constexpr auto kHinweis = "hinweis";
+
+QString hinweisVon(const QWidget* feld, const QWidget* bis)
+{
+    for (; feld && feld != bis; feld = feld->parentWidget()) {
+        const QVariant text = feld->property(kHinweis);
+        if (text.isValid())
+            return text.toString();
+    }
+    return {};
+}
+} // namespace
+
+void setzeHinweis(QWidget* feld, const QString& text) { feld->setProperty(kHinweis, text); }
+
+Bildschirm::Bildschirm(Umgebung& umgebung, const QString& name, const QString& titel)
+    : umgebung_(umgebung), grundtitel_(titel), stand_(titel)
+{
+    setObjectName(name);
+    setWindowTitle(titel);
+}
+
+Bildschirm::~Bildschirm() = default;
+
+void Bildschirm::setzeTitel(const QString& text)
+{
+    stand_ = text;
+    zeigeStatus(text);
+}
+
+void Bildschirm::zeigeStatus(const QString& text)
+{
+    setWindowTitle(text);
+    if (statuszeile_)
+        statuszeile_->setText(text.simplified());
+}
+
+void Bildschirm::mausUeber(QWidget* feld)
+{
+    if (laeuft())
+        return;
+    const QString text = hinweisVon(feld, this);
+    if (!text.isEmpty())
+        zeigeStatus(text);
+    else if (feld == this)
+        setzeTitel(grundtitel_);
+    else
+        zeigeStatus(stand_);
+}
+
+void Bildschirm::setzeInhalt(QLayout* inhalt)
+{
+    inhalt->setContentsMargins(Stil::kRand, Stil::kRand, Stil::kRand, Stil::kRand);
+    statuszeile_ = bezeichnung("Statuszeile", grundtitel_);
+    statuszeile_->setTextFormat(Qt::PlainText);
+    statuszeile_->setContentsMargins(Stil::kRand, Stil::kEng, Stil::kRand, Stil::kEng);
+    statuszeile_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    faerbe(statuszeile_, Farben::Fuss, Farben::FussText);
+
+    auto* ganz = new QVBoxLayout(this);
+    ganz->setContentsMargins(0, 0, 0, 0);
+    ganz->setSpacing(0);
+    ganz->addLayout(inhalt, 1);
+    ganz->addWidget(statuszeile_);
+}
+
+template <class Feld> Feld* Bildschirm::benannt(Feld* feld, const QString& name, const Hinweis& hinweis)
+{
+    feld->setObjectName(name);
+    if (!hinweis.text.isEmpty())
+        setzeHinweis(feld, hinweis.text);
+    return feld;
+}
+
+QPushButton* Bildschirm::befehl(const QString& name, const QString& text, const Hinweis& hinweis)
+{
+    auto* knopf = benannt(new QPushButton(text, this), name, hinweis);
+    knopf->setAutoDefault(true);
+    return knopf;
+}
+
+QLabel* Bildschirm::bezeichnung(const QString& name, const QString& text)
+{
+    return benannt(new QLabel(text, this), name);
+}
+
+QLineEdit* Bildschirm::textfeld(const QString& name, const QString& text)
+{
+    return benannt(new QLineEdit(text, this), name);
+}
+
+QComboBox* Bildschirm::kombi(const QString& name) { return benannt(new QComboBox(this), name); }
+
+QCheckBox* Bildschirm::kontroll(const QString& name, const QString& text)
+{
+    return benannt(new QCheckBox(text, this), name);
+}
+
+QRadioButton* Bildschirm::option(const QString& name, const QString& text, const Hinweis& hinweis)
+{
+    return benannt(new QRadioButton(text, this), name, hinweis);
+}
+
+QGroupBox* Bildschirm::rahmen(const QString& name, const QString& titel, QLayout* inhalt)
+{
+    auto* rahmen = benannt(new Rahmen(titel, this), name);
+    rahmen->setzeInhalt(inhalt);
+    return rahmen;
+}
+
+Liste* Bildschirm::liste(const QString& name, ListenModell::Eigenschaften eigenschaften)
+{
+    return benannt(new Liste(this, eigenschaften), name);
+}
+
+void Bildschirm::bei(QAbstractButton* knopf, const std::function<void()>& tue)
+{
+    connect(knopf, &QAbstractButton::clicked, knopf, [tue] { tue(); });
+}
+
+void Bildschirm::bei(QComboBox* kombi, const std::function<void()>& tue)
+{
+    connect(kombi, &QComboBox::activated, kombi, [tue] { tue(); });
+}
+
+void Bildschirm::showEvent(QShowEvent* ereignis)
+{
+    if (!fokusGeordnet_) {
+        ordneFokus(*this);
+        fokusGeordnet_ = true;
+    }
+    QWidget::showEvent(ereignis);
+}
+
+void Bildschirm::keyPressEvent(QKeyEvent* ereignis)
+{
+    if (ereignis->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(ereignis);
+}
+
+void Bildschirm::closeEvent(QCloseEvent* ereignis)
+{
+    if (laeuft()) {
+        stoppe();
+        schliesstNachLauf_ = true;
+        hide();
+        ereignis->ignore();
+        return;
+    }
+    ereignis->accept();
+    gehe();
+}
+
+void Bildschirm::gehe()
+{
+    beimSchliessen();
+    const bool zumMenue = kehrtZumMenueZurueck();
+    umgebung_.bildschirme->entlade(*this);
+    if (zumMenue && umgebung_.menue)
+        umgebung_.menue->zeigeWieder();
+}

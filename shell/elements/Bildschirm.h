@@ -1,0 +1,124 @@
+#pragma once
+
+#include "listcontrol/logic/ListenModell.h"
+#include "shell/elements/Bloecke.h"
+#include "shell/elements/Umgebung.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+class Liste;
+class QAbstractButton;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+/// The hint that the status line shows while the mouse is over a control.
+struct Hinweis {
+    QString text;
+};
+inline Hinweis hinweis(const QString& text) { return {text}; }
+
+/// First index of a control array: `feld(labels, "Bezeichnung1", ab(1))` names Bezeichnung1(1), Bezeichnung1(2) ...
+struct Ab {
+    int erster = 0;
+};
+inline Ab ab(int erster) { return {erster}; }
+
+/// Sets or replaces the hint of a control. A hint holds for the children of a control too.
+void setzeHinweis(QWidget* feld, const QString& text);
+
+/// Base of all screens. It owns the title that doubles as status line, the running flag of long evaluations, and the
+/// way back to the selection menu. Controls carry their told name as object name.
+class Bildschirm : public QWidget {
+public:
+    ~Bildschirm() override;
+
+    Umgebung& umgebung() const { return umgebung_; }
+    QString name() const { return objectName(); }
+
+    /// Shows a text in the title until the next one, or until the mouse is over the bare form.
+    void setzeTitel(const QString& text);
+    /// The text that the title falls back to.
+    void setzeGrundtitel(const QString& text) { grundtitel_ = text; }
+    const QString& grundtitel() const { return grundtitel_; }
+
+    /// True while an evaluation of this screen runs.
+    bool laeuft() const { return laeufe_ > 0; }
+    /// Asks the running evaluation to end at its next turn.
+    void stoppe() { stopp_ = true; }
+    bool gestoppt() const { return stopp_; }
+
+    /// The mouse moved over `feld`, a control of this screen or the screen itself. Shows the hint.
+    virtual void mausUeber(QWidget* feld);
+
+    /// Brings everything up to date that depends on the archive; runs each time before the screen is shown.
+    virtual void beimZeigen() {}
+
+    /// Presses the start button of a tool that is set going without being shown.
+    virtual void druckeStart() {}
+
+    /// Closes as the window button would: a running evaluation is stopped first and unwinds.
+    void schliesse() { close(); }
+    /// True if closing this screen brings the selection menu back.
+    virtual bool kehrtZumMenueZurueck() const { return true; }
+
+protected:
+    Bildschirm(Umgebung& umgebung, const QString& name, const QString& titel);
+
+    /// Runs once on closing, after a run has unwound: restores what the screen changed.
+    virtual void beimSchliessen() {}
+    /// Shows a text where this screen has its status line.
+    virtual void zeigeStatus(const QString& text);
+
+    /// The whole screen: the blocks above, the status line at the foot.
+    void setzeInhalt(QLayout* inhalt);
+
+    QPushButton* befehl(const QString& name, const QString& text, const Hinweis& hinweis = {});
+    QLabel* bezeichnung(const QString& name, const QString& text = {});
+    QLineEdit* textfeld(const QString& name, const QString& text = {});
+    QComboBox* kombi(const QString& name);
+    QCheckBox* kontroll(const QString& name, const QString& text);
+    QRadioButton* option(const QString& name, const QString& text, const Hinweis& hinweis = {});
+    QGroupBox* rahmen(const QString& name, const QString& titel, QLayout* inhalt);
+    Liste* liste(const QString& name, ListenModell::Eigenschaften eigenschaften = {});
+
+    /// Makes the labels of a control array.
+    template <std::size_t N> void feld(std::array<QLabel*, N>& felder, const QString& name, Ab ab = {});
+
+    /// Calls `tue` on every click.
+    static void bei(QAbstractButton* knopf, const std::function<void()>& tue);
+    /// Calls `tue` when the user takes an entry.
+    static void bei(QComboBox* kombi, const std::function<void()>& tue);
+
+    void closeEvent(QCloseEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
+    void showEvent(QShowEvent* ereignis) override;
+
+private:
+    friend class Lauf;
+
+    template <class Feld> Feld* benannt(Feld* feld, const QString& name, const Hinweis& hinweis = {});
+    void gehe();
+
+    Umgebung& umgebung_;
+    QString grundtitel_;
+    QString stand_; ///< the title without a hint over it
+    QLabel* statuszeile_ = nullptr;
+    int laeufe_ = 0;
+    bool stopp_ = false;
+    bool schliesstNachLauf_ = false;
+    bool fokusGeordnet_ = false;
+};
+
+template <std::size_t N> void Bildschirm::feld(std::array<QLabel*, N>& felder, const QString& name, Ab ab)
+{
+    for (std::size_t i = 0; i < N; ++i)
+        felder[i] = bezeichnung(QString("%1(%2)").arg(name).arg(ab.erster + static_cast<int>(i)));
+}

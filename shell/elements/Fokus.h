@@ -1,0 +1,7 @@
+#pragma once
+
+class QWidget;
+
+/// Sets the tab order of a screen to its reading order: as its layout is written, from the top to the bottom and from
+/// the left to the right.
+void ordneFokus(QWidget& bildschirm);

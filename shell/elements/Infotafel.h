@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QFrame>
+
+/// The info frame of a tool: its explanation over the screen, until "ok".
+class Infotafel final : public QFrame {
+public:
+    Infotafel(QWidget* bildschirm, const QString& text);
+    void zeige();
+};

@@ -1,0 +1,56 @@
+#include "shell/elements/Lauf.h"
+
+#include "shell/elements/Bildschirm.h"
+
+#include <QGuiApplication>
+#include <QTimer>
+
+WarteAnzeige::WarteAnzeige(Bildschirm& bildschirm, const QString& text) : bildschirm_(bildschirm), text_(text)
+{
+    bildschirm_.setzeTitel(text_);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+WarteAnzeige::~WarteAnzeige()
+{
+    QGuiApplication::restoreOverrideCursor();
+    if (bildschirm_.windowTitle() == text_)
+        bildschirm_.setzeTitel(bildschirm_.grundtitel());
+}
+
+Lauf::Lauf(Bildschirm& bildschirm, const QString& wartetext)
+    : bildschirm_(bildschirm), gilt_(!bildschirm.laeuft()), letzterZug_(std::chrono::steady_clock::now())
+{
+    if (!gilt_)
+        return;
+    bildschirm_.stopp_ = false;
+    ++bildschirm_.laeufe_;
+    anzeige_ = std::make_unique<WarteAnzeige>(bildschirm, wartetext);
+}
+
+Lauf::~Lauf()
+{
+    if (!gilt_)
+        return;
+    anzeige_.reset();
+    --bildschirm_.laeufe_;
+    if (bildschirm_.schliesstNachLauf_)
+        QTimer::singleShot(0, &bildschirm_, [&schirm = bildschirm_] { schirm.close(); });
+}
+
+bool Lauf::weiter()
+{
+    constexpr std::chrono::milliseconds kZug{16};
+    const auto jetzt = std::chrono::steady_clock::now();
+    if (jetzt - letzterZug_ >= kZug) {
+        if (!bildschirm_.umgebung().pumpe.verarbeite())
+            bildschirm_.stoppe();
+        letzterZug_ = std::chrono::steady_clock::now();
+    }
+    return !bildschirm_.gestoppt();
+}
+
+Fortschritt Lauf::fortschritt()
+{
+    return [this](std::uint64_t) { return weiter(); };
+}

@@ -1,0 +1,86 @@
+#include "shell/elements/Liste.h"
+
+#include "shell/elements/Stil.h"
+#include "shell/elements/Utf8.h"
+
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+
+namespace {
+constexpr int kEinzug = 4; ///< pixels to the left of a row's text
+} // namespace
+
+Liste::Liste(QWidget* eltern, ListenModell::Eigenschaften eigenschaften) : Zeilenansicht(eltern), modell_(eigenschaften)
+{
+    setFont(Stil::festeSchrift());
+    modell_.beiAenderung([this](ListenModell::Aenderung aenderung) {
+        if (aenderung == ListenModell::Aenderung::Zeilen)
+            breite_ = 0;
+        erneuere();
+    });
+}
+
+void Liste::setzeSichtbar(int zeilen, int zeichen)
+{
+    sichtbareZeilen_ = zeilen;
+    sichtbareZeichen_ = zeichen;
+    updateGeometry();
+}
+
+QSize Liste::minimumSizeHint() const
+{
+    const int rand = 2 * frameWidth();
+    const int breite = sichtbareZeichen_ * fontMetrics().horizontalAdvance('0') + 2 * kEinzug;
+    return {breite + verticalScrollBar()->sizeHint().width() + rand, sichtbareZeilen_ * zeilenhoehe() + rand};
+}
+
+QString Liste::zeilentext(int zeile) const { return qt(modell_.List(static_cast<std::size_t>(zeile))); }
+
+void Liste::maleZeile(QPainter& maler, int zeile, const QRect& rechteck)
+{
+    const QString text = zeilentext(zeile);
+    breite_ = std::max(breite_, fontMetrics().horizontalAdvance(text) + 2 * kEinzug);
+    const Zellfarben farben = zellfarben(zeile).front();
+    maler.fillRect(rechteck, farben.grund);
+    maler.setPen(farben.schrift);
+    maler.drawText(rechteck.adjusted(kEinzug, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    if (hasFocus() && zeile == fokuszeile()) {
+        QStyleOptionFocusRect rahmen;
+        rahmen.initFrom(this);
+        rahmen.rect = rechteck;
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rahmen, &maler, this);
+    }
+}
+
+void Liste::waehle(int zeile, Qt::KeyboardModifiers tasten)
+{
+    const auto stelle = static_cast<std::size_t>(zeile);
+    if (!modell_.MultiSelect() || tasten == Qt::NoModifier)
+        setzeAuswahl(zeile);
+    else if (tasten.testFlag(Qt::ShiftModifier))
+        waehleBereich(zeile);
+    else
+        modell_.SetSelected(stelle, !modell_.Selected(stelle));
+    if (!tasten.testFlag(Qt::ShiftModifier))
+        anker_ = zeile;
+    modell_.SetListIndex(zeile);
+    if (beiAuswahl)
+        beiAuswahl();
+}
+
+void Liste::setzeAuswahl(int zeile)
+{
+    for (const std::size_t gewaehlte : modell_.ausgewaehlte())
+        modell_.SetSelected(gewaehlte, false);
+    modell_.SetSelected(static_cast<std::size_t>(zeile), true);
+}
+
+void Liste::waehleBereich(int zeile)
+{
+    setzeAuswahl(zeile);
+    const auto [von, bis] = std::minmax(anker_, zeile);
+    for (int i = von; i <= bis; ++i)
+        modell_.SetSelected(static_cast<std::size_t>(i), true);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "listcontrol/logic/ListenModell.h"
+#include "shell/elements/Zeilenansicht.h"
+
+/// The list box: fixed pitch text rows, stored and sorted by their own text, or made on demand. Screens fill the
+/// model; the view follows by itself.
+class Liste final : public Zeilenansicht {
+public:
+    explicit Liste(QWidget* eltern, ListenModell::Eigenschaften eigenschaften = {});
+
+    ListenModell& modell() { return modell_; }
+    const ListenModell& modell() const { return modell_; }
+
+    /// Room for this many rows and characters without scrolling, at least.
+    void setzeSichtbar(int zeilen, int zeichen);
+
+    int zeilenzahl() const override { return static_cast<int>(modell_.ListCount()); }
+    QString zeilentext(int zeile) const override;
+    bool istGewaehlt(int zeile) const override { return modell_.Selected(static_cast<std::size_t>(zeile)); }
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override { return minimumSizeHint(); }
+
+protected:
+    void maleZeile(QPainter& maler, int zeile, const QRect& rechteck) override;
+    int zeilenhoehe() const override { return fontMetrics().height() + 2; }
+    int zeilenbreite() const override { return breite_; }
+    int fokuszeile() const override { return static_cast<int>(modell_.ListIndex()); }
+    void waehle(int zeile, Qt::KeyboardModifiers tasten) override;
+
+private:
+    void waehleBereich(int zeile);
+    void setzeAuswahl(int zeile);
+
+    ListenModell modell_;
+    int anker_ = 0;
+    int breite_ = 0; ///< of the widest row seen
+    int sichtbareZeilen_ = 6;
+    int sichtbareZeichen_ = 20;
+};

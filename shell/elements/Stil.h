@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFont>
+
+class QApplication;
+class QWidget;
+
+/// One look for all screens: Fusion, one palette, one scale of distances, German texts of Qt's own.
+namespace Stil {
+inline constexpr int kAbstand = 8;       ///< between the parts of a screen
+inline constexpr int kRand = 12;         ///< around a screen
+inline constexpr int kEng = 4;           ///< between a label and its field
+
+void richteEin(QApplication& programm);
+
+/// "Courier New" or a metric-compatible fixed pitch font, for lists and reports.
+QFont festeSchrift();
+} // namespace Stil
+
+/// Larger and bold: the game, the result line.
+void alsUeberschrift(QWidget* feld);

@@ -1,0 +1,93 @@
+#include "shell/elements/Tippfeld7x7View.h"
+
+#include "shell/elements/Farben.h"
+#include "shell/elements/Zelle.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+constexpr int kZellseite = 30;
+constexpr int kSteg = 4;
+} // namespace
+
+Tippfeld7x7View::Tippfeld7x7View(const QString& name, Art art, QWidget* eltern) : QWidget(eltern), art_(art)
+{
+    auto* gitter = new QGridLayout(this);
+    gitter->setSpacing(kSteg);
+    gitter->setContentsMargins(kSteg, kSteg, kSteg, kSteg);
+    for (int zahl = 1; zahl <= 49; ++zahl) {
+        auto* zelle = new Zelle(QString("%1(%2)").arg(name).arg(zahl), QString::number(zahl), this);
+        zelle->setFixedSize(kZellseite, kZellseite);
+        if (art != Art::NurAnzeige)
+            zelle->beiKlick = [this, zahl] { klick(zahl); };
+        zellen_[static_cast<std::size_t>(zahl)] = zelle;
+        gitter->addWidget(zelle, Tippfeld7x7::zeile(zahl), Tippfeld7x7::spalte(zahl));
+    }
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    if (art != Art::NurAnzeige)
+        setFocusPolicy(Qt::StrongFocus);
+}
+
+void Tippfeld7x7View::zeige(const Tippfeld7x7& modell)
+{
+    modell_ = modell;
+    frischeAuf();
+}
+
+void Tippfeld7x7View::klick(int zahl)
+{
+    fokuszahl_ = zahl;
+    if (art_ == Art::FreieEingabe)
+        modell_.klickFreieEingabe(zahl);
+    else
+        modell_.klickEineZahl(zahl);
+    frischeAuf();
+    if (beiKlick)
+        beiKlick(zahl);
+}
+
+void Tippfeld7x7View::frischeAuf()
+{
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        markiere(zellen_[static_cast<std::size_t>(zahl)], modell_.markiert(zahl));
+    update();
+}
+
+void Tippfeld7x7View::keyPressEvent(QKeyEvent* ereignis)
+{
+    int ziel = fokuszahl_;
+    switch (ereignis->key()) {
+    case Qt::Key_Left:
+        ziel -= 1;
+        break;
+    case Qt::Key_Right:
+        ziel += 1;
+        break;
+    case Qt::Key_Up:
+        ziel -= 7;
+        break;
+    case Qt::Key_Down:
+        ziel += 7;
+        break;
+    case Qt::Key_Space:
+        klick(fokuszahl_);
+        return;
+    default:
+        QWidget::keyPressEvent(ereignis);
+        return;
+    }
+    if (ziel >= 1 && ziel <= 49)
+        fokuszahl_ = ziel;
+    update();
+}
+
+void Tippfeld7x7View::paintEvent(QPaintEvent*)
+{
+    if (!hasFocus() || art_ == Art::NurAnzeige)
+        return;
+    QPainter maler(this);
+    maler.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    maler.drawRect(zellen_[static_cast<std::size_t>(fokuszahl_)]->geometry().adjusted(-2, -2, 2, 2));
+}

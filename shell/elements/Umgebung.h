@@ -1,0 +1,108 @@
+#pragma once
+
+#include "archive/logic/ZiehungsArchiv.h"
+#include "shell/logic/Uhr.h"
+#include "shell/logic/Zufall.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+class BildschirmVerzeichnis;
+class QPainter;
+class QPagedPaintDevice;
+
+/// What a file dialog is asked. `filter` is in Qt's form, "Text (*.txt);;Alle (*.*)".
+struct DateiFrage {
+    QString titel;
+    QString pfad; ///< start directory, with the proposed file name behind it if there is one
+    QString filter;
+    QString standardendung;
+    bool speichern = false;
+    bool frageVorUeberschreiben = false;
+};
+
+/// Message boxes, questions and file dialogs. They hold up the caller until the user has answered.
+class Boxen {
+public:
+    virtual ~Boxen() = default;
+    virtual void info(const QString& titel, const QString& text) = 0;
+    /// "Ja" is true.
+    virtual bool frage(const QString& titel, const QString& text) = 0;
+    /// The text entered; nothing after a cancel.
+    virtual std::optional<QString> eingabe(const QString& titel, const QString& text, const QString& vorgabe) = 0;
+    /// The full path chosen; nothing after a cancel.
+    virtual std::optional<QString> datei(const DateiFrage& frage) = 0;
+};
+
+class Zwischenablage {
+public:
+    virtual ~Zwischenablage() = default;
+    virtual void setze(const QString& text) = 0;
+    virtual QString text() const = 0;
+};
+
+/// The default printer of the system.
+class Drucker {
+public:
+    virtual ~Drucker() = default;
+    /// Prints one job: `male` gets an active painter and the page device. False if there is no printer or it fails.
+    virtual bool drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male) = 0;
+};
+
+class Klang {
+public:
+    virtual ~Klang() = default;
+    /// Plays sound 1..3 of the program's resources without waiting; does nothing on a machine without sound.
+    virtual void SpieleKlang(int nummer) = 0;
+};
+
+/// Hands files, folders and web addresses to the system.
+class Oeffner {
+public:
+    virtual ~Oeffner() = default;
+    virtual bool oeffne(const QString& dateiOderAdresse) = 0;
+};
+
+/// The event pump of long loops.
+class Pumpe {
+public:
+    virtual ~Pumpe() = default;
+    /// One turn of the event loop. False once the program is ending: the caller unwinds.
+    virtual bool verarbeite() = 0;
+};
+
+/// What a tool may ask of the selection menu.
+class Menue {
+public:
+    virtual ~Menue() = default;
+    /// Presses the option of a game (1..3), which reloads the archive the menu's own way.
+    virtual void waehleSpielart(std::int16_t spielart) = 0;
+    /// Comes back into view after a tool.
+    virtual void zeigeWieder() = 0;
+};
+
+/// Everything that a screen wants of the world. The program holds one instance; a test makes its own.
+struct Umgebung {
+    ZiehungsArchiv& archiv;
+    Boxen& boxen;
+    Zwischenablage& zwischenablage;
+    Drucker& drucker;
+    Klang& klang;
+    Oeffner& oeffner;
+    Uhr& uhr;
+    Zufall& zufall;
+    Pumpe& pumpe;
+    BildschirmVerzeichnis* bildschirme = nullptr; ///< set once the screens are registered
+    Menue* menue = nullptr;                       ///< set while the selection menu exists
+    bool VorschlagLaeuft = false;                 ///< the tip proposals use other screens as their engines
+};
+
+/// The title of every box that has none of its own.
+inline constexpr auto kProgrammtitel = "Tombrix";
+/// The title of the box with a tool's explanation.
+inline constexpr auto kInfotitel = "Lotto-Info";
+
+/// Loads the Ziehungsdatei of `spielart` into the archive; a missing file is told in a box until it is there.
+void ladeSpielart(Umgebung& umgebung, std::int16_t spielart);

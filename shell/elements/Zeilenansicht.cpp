@@ -1,0 +1,165 @@
+#include "shell/elements/Zeilenansicht.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <array>
+
+Zeilenansicht::Zeilenansicht(QWidget* eltern) : QAbstractScrollArea(eltern)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    viewport()->setBackgroundRole(QPalette::Base);
+    viewport()->setAutoFillBackground(true);
+}
+
+std::vector<Zellfarben> Zeilenansicht::zellfarben(int zeile) const
+{
+    const bool gewaehlt = istGewaehlt(zeile);
+    return {{palette().color(gewaehlt ? QPalette::Highlight : QPalette::Base),
+             palette().color(gewaehlt ? QPalette::HighlightedText : QPalette::Text)}};
+}
+
+int Zeilenansicht::obersteZeile() const { return verticalScrollBar()->value(); }
+
+int Zeilenansicht::zeilenJeSeite() const { return std::max(1, viewport()->height() / zeilenhoehe()); }
+
+QRect Zeilenansicht::zeilenrechteck(int zeile) const
+{
+    const int breite = std::max(zeilenbreite(), viewport()->width());
+    return {-horizontalScrollBar()->value(), (zeile - obersteZeile()) * zeilenhoehe(), breite, zeilenhoehe()};
+}
+
+int Zeilenansicht::zeileBei(int y) const
+{
+    const int zeile = obersteZeile() + y / zeilenhoehe();
+    return y >= 0 && zeile < zeilenzahl() ? zeile : -1;
+}
+
+void Zeilenansicht::zeigeZeile(int zeile)
+{
+    gleicheAb();
+    if (zeile < obersteZeile())
+        verticalScrollBar()->setValue(zeile);
+    else if (zeile >= obersteZeile() + zeilenJeSeite())
+        verticalScrollBar()->setValue(zeile - zeilenJeSeite() + 1);
+}
+
+void Zeilenansicht::gleicheAb()
+{
+    verticalScrollBar()->setRange(0, std::max(0, zeilenzahl() - zeilenJeSeite()));
+    verticalScrollBar()->setPageStep(zeilenJeSeite());
+    horizontalScrollBar()->setRange(0, std::max(0, zeilenbreite() - viewport()->width()));
+    horizontalScrollBar()->setPageStep(viewport()->width());
+    horizontalScrollBar()->setSingleStep(fontMetrics().averageCharWidth());
+}
+
+void Zeilenansicht::erneuere() { QApplication::postEvent(this, new QEvent(QEvent::LayoutRequest)); }
+
+bool Zeilenansicht::event(QEvent* ereignis)
+{
+    const bool getan = QAbstractScrollArea::event(ereignis);
+    if (ereignis->type() == QEvent::LayoutRequest || ereignis->type() == QEvent::FontChange) {
+        gleicheAb();
+        viewport()->update();
+    }
+    return getan;
+}
+
+void Zeilenansicht::paintEvent(QPaintEvent* ereignis)
+{
+    QPainter maler(viewport());
+    maler.setFont(font());
+    const int erste = obersteZeile() + ereignis->rect().top() / zeilenhoehe();
+    const int letzte = std::min(zeilenzahl() - 1, obersteZeile() + ereignis->rect().bottom() / zeilenhoehe());
+    for (int zeile = erste; zeile <= letzte; ++zeile)
+        maleZeile(maler, zeile, zeilenrechteck(zeile));
+    if (zeilenbreite() - viewport()->width() > horizontalScrollBar()->maximum())
+        erneuere();
+}
+
+void Zeilenansicht::resizeEvent(QResizeEvent* ereignis)
+{
+    QAbstractScrollArea::resizeEvent(ereignis);
+    gleicheAb();
+}
+
+void Zeilenansicht::geheZu(int zeile, Qt::KeyboardModifiers tasten)
+{
+    zeigeZeile(zeile);
+    waehle(zeile, tasten);
+}
+
+void Zeilenansicht::mousePressEvent(QMouseEvent* ereignis)
+{
+    const int zeile = zeileBei(ereignis->position().toPoint().y());
+    if (ereignis->button() == Qt::LeftButton && zeile >= 0)
+        waehle(zeile, ereignis->modifiers());
+}
+
+void Zeilenansicht::mouseMoveEvent(QMouseEvent* ereignis)
+{
+    const int zeile = zeileBei(ereignis->position().toPoint().y());
+    if (ereignis->buttons() == Qt::LeftButton && ereignis->modifiers() == Qt::NoModifier && zeile >= 0 &&
+        zeile != fokuszeile())
+        geheZu(zeile, Qt::NoModifier);
+}
+
+void Zeilenansicht::mouseDoubleClickEvent(QMouseEvent* ereignis)
+{
+    const int zeile = zeileBei(ereignis->position().toPoint().y());
+    if (ereignis->button() == Qt::LeftButton && zeile >= 0 && beiDoppelklick)
+        beiDoppelklick(zeile);
+}
+
+int Zeilenansicht::zielzeile(int taste) const
+{
+    const int von = std::max(0, fokuszeile());
+    switch (taste) {
+    case Qt::Key_Up:
+        return von - 1;
+    case Qt::Key_Down:
+        return fokuszeile() < 0 ? 0 : von + 1;
+    case Qt::Key_PageUp:
+        return von - zeilenJeSeite();
+    case Qt::Key_PageDown:
+        return von + zeilenJeSeite();
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return zeilenzahl() - 1;
+    default:
+        return -1;
+    }
+}
+
+void Zeilenansicht::keyPressEvent(QKeyEvent* ereignis)
+{
+    static constexpr std::array kWege = {Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
+                                         Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    const int taste = ereignis->key();
+    if (std::find(kWege.begin(), kWege.end(), taste) != kWege.end()) {
+        if (zeilenzahl() > 0)
+            geheZu(std::clamp(zielzeile(taste), 0, zeilenzahl() - 1), ereignis->modifiers() & ~Qt::KeypadModifier);
+    } else if (taste == Qt::Key_Space && fokuszeile() >= 0) {
+        schalte(fokuszeile());
+    } else if (taste == Qt::Key_Return && fokuszeile() >= 0 && beiDoppelklick) {
+        beiDoppelklick(fokuszeile());
+    } else {
+        QAbstractScrollArea::keyPressEvent(ereignis);
+    }
+}
+
+void Zeilenansicht::focusInEvent(QFocusEvent* ereignis)
+{
+    QAbstractScrollArea::focusInEvent(ereignis);
+    viewport()->update();
+}
+
+void Zeilenansicht::focusOutEvent(QFocusEvent* ereignis)
+{
+    QAbstractScrollArea::focusOutEvent(ereignis);
+    viewport()->update();
+}

@@ -1,0 +1,92 @@
+#include "shell/logic/Auswertebereich.h"
+
+#include "shell/logic/Format.h"
+#include "shell/logic/Texte.h"
+#include "shell/logic/Zahlen.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+
+constexpr std::int32_t kLetztesJahr = 9999;
+
+/// The ZiehungsNr in a text of digits, one too large for the type being its bound; 0 for any other text.
+std::int32_t ziehungsNr(std::string_view text)
+{
+    const bool nurZiffern = trim(text).find_first_not_of("0123456789") == std::string_view::npos;
+    return nurZiffern ? fuehrendeZahl(text) : 0;
+}
+
+Bereichspruefung meldung(std::string_view titel, std::string_view text)
+{
+    return {std::nullopt, Meldung{std::string(titel), std::string(text)}};
+}
+
+} // namespace
+
+Auswertebereich::Auswertebereich(std::int32_t erstesJahr, std::int32_t letztesJahr, std::int32_t anzahlZiehungen)
+{
+    if (anzahlZiehungen < 1)
+        return;
+    erstes_ = std::clamp(erstesJahr, 0, kLetztesJahr);
+    letztes_ = std::clamp(letztesJahr, 0, kLetztesJahr);
+    anzahl_ = anzahlZiehungen;
+    erstesJahr_ = Format(erstes_, "0000");
+    letztesJahr_ = Format(letztes_, "0000");
+    angabe_ = {Bereichsform::Jahre, erstesJahr_, letztesJahr_, std::to_string(anzahl_)};
+}
+
+std::vector<std::string> Auswertebereich::jahre() const
+{
+    std::vector<std::string> eintraege;
+    for (std::int32_t jahr = erstes_; jahr <= letztes_; ++jahr)
+        eintraege.push_back(Format(jahr, "0000"));
+    return eintraege;
+}
+
+std::vector<std::string> Auswertebereich::ziehungsnummern() const
+{
+    std::vector<std::string> eintraege;
+    eintraege.reserve(static_cast<std::size_t>(anzahl_));
+    for (std::int32_t nr = 1; nr <= anzahl_; ++nr)
+        eintraege.push_back(Format(Format(nr, "###0"), "@@@@"));
+    return eintraege;
+}
+
+void Auswertebereich::zeigeBisZiehung()
+{
+    angabe_.form = Bereichsform::BisZiehung;
+    angabe_.von = erstesJahr_;
+    angabe_.bis = letztesJahr_;
+}
+
+Bereichspruefung Auswertebereich::pruefe()
+{
+    if (anzahlZeichen(angabe_.von) != 4 || anzahlZeichen(angabe_.bis) != 4)
+        return meldung(kLottoNachricht, "Jahreszahlen 4-stellig eingeben !");
+    const auto von = ganzzahl(angabe_.von);
+    const auto bis = ganzzahl(angabe_.bis);
+    if (!von || !bis)
+        return {};
+    if (*bis < *von)
+        return meldung("", "\"Bis\" muss grösser \"Von\" sein!");
+    return {Ziehungsbereich{*von, *bis, letzteZiehung()}, std::nullopt};
+}
+
+std::int32_t Auswertebereich::letzteZiehung()
+{
+    if (angabe_.form == Bereichsform::Jahre)
+        return Ziehungsbereich::kAlleZiehungen;
+    const std::int32_t nr = ziehungsNr(angabe_.bisZiehung);
+    if (nr > anzahl_) {
+        angabe_.bisZiehung = std::to_string(anzahl_);
+        return anzahl_;
+    }
+    return nr;
+}
+
+std::string hinweisVon(std::string_view erstesSpieljahr)
+{
+    return "Jahreszahl nicht kleiner " + std::string(erstesSpieljahr) + " wählen.";
+}

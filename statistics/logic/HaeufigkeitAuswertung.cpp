@@ -1,0 +1,105 @@
+#include "statistics/logic/HaeufigkeitAuswertung.h"
+
+#include "shell/logic/Format.h"
+#include "shell/logic/Spielarttexte.h"
+
+#include <string_view>
+
+namespace {
+
+constexpr std::size_t kEinzugKopf = 25;
+constexpr std::size_t kLeerzeile = 26;
+
+std::string spielName(const HaeufigkeitAuswertung& auswertung)
+{
+    return std::string(auswertung.mittwochAB ? kMittwochABName : spielartName(auswertung.spielart));
+}
+
+std::string zeileNachJahren(const HaeufigkeitAuswertung& auswertung)
+{
+    const Bereichsangabe& angabe = auswertung.angabe;
+    return "Auswertung von " + angabe.von + " bis " + angabe.bis + " ; " +
+           std::to_string(auswertung.haeufigkeit.AusgewerteteZiehungen) +
+           (auswertung.mittwochAB ? " Ziehungen " : " Ziehungen; ") + zzText(auswertung.ZaehlModus);
+}
+
+std::string zeileBisZiehung(const HaeufigkeitAuswertung& auswertung)
+{
+    return "Auswertung von Ziehung 1 bis Ziehung " + auswertung.angabe.bisZiehung +
+           (auswertung.mittwochAB ? " ," : " , ") + zzText(auswertung.ZaehlModus);
+}
+
+/// Week of the first draw of the game in its first year, else the first week.
+std::string_view ersteSpielwoche(const HaeufigkeitAuswertung& auswertung)
+{
+    if (auswertung.angabe.von != erstesSpieljahr(auswertung.spielart))
+        return "01";
+    return istSamstag(auswertung.spielart) ? "41" : "23";
+}
+
+std::string ueberschrift(const HaeufigkeitAuswertung& auswertung)
+{
+    const Bereichsangabe& angabe = auswertung.angabe;
+    const std::string anfang = "  -- Häufigkeit (" + zzKurztext(auswertung.ZaehlModus) + ")";
+    if (angabe.form == Bereichsform::BisZiehung)
+        return anfang + ", nach " + angabe.bisZiehung + " Ziehungen --";
+    return anfang + " " + angabe.von + "/" + std::string(ersteSpielwoche(auswertung)) + " - " + angabe.bis + "/" +
+           Format(auswertung.haeufigkeit.letzteSpielwoche, "00") + ", " +
+           std::to_string(auswertung.haeufigkeit.AusgewerteteZiehungen) + " Ziehungen --";
+}
+
+std::string druckzeile(int zahl, std::int16_t anzahl)
+{
+    return "   Zahl " + Format(zahl, "00") + " wurde " + Format(std::to_string(anzahl), "@@@@@") + " mal gezogen";
+}
+
+std::string extremText(std::string_view anfang, int zahl, std::int16_t anzahl)
+{
+    return std::string(anfang) + ": Zahl -> " + std::to_string(zahl) + " (" + std::to_string(anzahl) + " mal gezogen)";
+}
+
+} // namespace
+
+HaeufigkeitAuswertung werteAus(const ZiehungsArchiv& archiv, const Ziehungsbereich& bereich,
+                               const Bereichsangabe& angabe, ZZModus modus)
+{
+    return {zaehleHaeufigkeit(archiv, bereich, modus), archiv.Spielart, false, modus, bereich, angabe};
+}
+
+void ergaenzeMittwoch(HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv)
+{
+    auswertung.mittwochAB = true;
+    zaehleDazu(auswertung.haeufigkeit, archiv, auswertung.bereich, ZZModus::Ohne);
+}
+
+std::string spielLabel(const HaeufigkeitAuswertung& auswertung)
+{
+    return std::string(auswertung.mittwochAB ? kMittwochABGross : spielartGross(auswertung.spielart));
+}
+
+std::string ergebniszeile(const HaeufigkeitAuswertung& auswertung)
+{
+    const bool nachJahren = auswertung.angabe.form == Bereichsform::Jahre;
+    return spielName(auswertung) + ": " + (nachJahren ? zeileNachJahren(auswertung) : zeileBisZiehung(auswertung));
+}
+
+std::string maximumText(const Extremwerte& extreme)
+{
+    return extremText("Max", extreme.zahlMax, extreme.max);
+}
+
+std::string minimumText(const Extremwerte& extreme)
+{
+    return extremText("Min", extreme.zahlMin, extreme.min);
+}
+
+Druckauftrag druckauftrag(const HaeufigkeitAuswertung& auswertung)
+{
+    Druckauftrag auftrag;
+    auftrag.kopf = {std::string(kEinzugKopf, ' ') + "*** " + spielName(auswertung) + " ***", ueberschrift(auswertung),
+                    std::string(kLeerzeile, ' ')};
+    auftrag.folgekopf = auftrag.kopf;
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        auftrag.zeilen.push_back(druckzeile(zahl, auswertung.haeufigkeit.fuer(zahl)));
+    return auftrag;
+}

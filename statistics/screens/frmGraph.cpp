@@ -1,0 +1,87 @@
+#include "statistics/screens/frmGraph.h"
+
+#include "shell/elements/BildschirmVerzeichnis.h"
+#include "shell/elements/Stil.h"
+#include "shell/elements/Utf8.h"
+#include "statistics/screens/Balkenfeld.h"
+#include "statistics/screens/frmSTAT1.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+constexpr auto kInfo = "Wird der Mauszeiger auf einen Farbbalken bewegt, wird in einer Textzeile angezeigt wann die "
+                       "entsprechende Gewinnzahl zuletzt gezogen wurde.";
+} // namespace
+
+frmGraph::frmGraph(Umgebung& umgebung)
+    : Bildschirm(umgebung, "frmGraph", kTitel), statistik_(umgebung.bildschirme->lade<frmSTAT1>("frmSTAT1")),
+      Bild1(new Balkenfeld(this))
+{
+    Bezeichnung3 = bezeichnung("Bezeichnung3");
+    Bezeichnung4 = bezeichnung("Bezeichnung4");
+    Bezeichnung19 = bezeichnung("Bezeichnung19");
+    Befehl1 = befehl("Befehl1", "&<<");
+    Befehl2 = befehl("Befehl2", "Zoom", hinweis("Die Differenzen werden deutlicher (gezoomt) dargestellt."));
+    Befehl3 = befehl("Befehl3", "Normal", hinweis("Normale Darstellung der Differenzen."));
+    Befehl4 = befehl("Befehl4", "&Info");
+    Befehl5 = befehl("Befehl5", "&mit Zusatzzahl");
+    Befehl6 = befehl("Befehl6", "&ohne Zusatzzahl");
+    Befehl7 = befehl("Befehl7", "&nur Zusatzzahl");
+    alsUeberschrift(Bezeichnung19);
+
+    // clang-format off
+    setzeInhalt(spalte({
+        zeile({Bezeichnung3, luecke(), Bezeichnung4}),
+        dehnbar(Bild1),
+        Bezeichnung19,
+        zeile({Befehl2, Befehl3, Befehl6, Befehl5, Befehl7, Befehl4, luecke(), Befehl1}),
+    }));
+    // clang-format on
+
+    bei(Befehl1, [this] { schliesse(); });
+    bei(Befehl2, [this] { zeige(balkenZoom(statistik_.ergebnis().haeufigkeit), true); });
+    bei(Befehl3, [this] { zeige(balkenNormal(statistik_.ergebnis().haeufigkeit), false); });
+    bei(Befehl4, [this] { this->umgebung().boxen.info(kInfotitel, kInfo); });
+    bei(Befehl5, [this] { werteAus(ZZModus::Mit); });
+    bei(Befehl6, [this] { werteAus(ZZModus::Ohne); });
+    bei(Befehl7, [this] { werteAus(ZZModus::Nur); });
+}
+
+void frmGraph::werteAus(ZZModus modus)
+{
+    statistik_.werteAus(modus);
+    erneuere();
+}
+
+void frmGraph::erneuere()
+{
+    const HaeufigkeitAuswertung& ergebnis = statistik_.ergebnis();
+    ZuletztVor_ = zuletztVor(umgebung().archiv, ergebnis.ZaehlModus);
+    for (QPushButton* modus : {Befehl5, Befehl6, Befehl7})
+        modus->setVisible(!ergebnis.mittwochAB);
+    const Extremwerte extreme = extremwerte(ergebnis.haeufigkeit);
+    Bezeichnung3->setText(qt(maximumText(extreme)));
+    Bezeichnung4->setText(qt(minimumText(extreme)));
+    Bezeichnung19->setText({});
+    zeige(balkenNormal(ergebnis.haeufigkeit), false);
+}
+
+void frmGraph::zeige(const Balkengraphik& graphik, bool gezoomt)
+{
+    Bild1->zeige(graphik, extremwerte(statistik_.ergebnis().haeufigkeit));
+    Befehl2->setEnabled(!gezoomt);
+    Befehl3->setEnabled(gezoomt);
+}
+
+void frmGraph::mausUeber(QWidget* feld)
+{
+    if (const int zahl = Bild1->zahlVon(feld))
+        Bezeichnung19->setText(qt(balkenText(statistik_.ergebnis(), umgebung().archiv, ZuletztVor_, zahl)));
+    Bildschirm::mausUeber(feld);
+}
+
+void frmGraph::beimSchliessen()
+{
+    statistik_.setzeTitel(qt(ergebniszeile(statistik_.ergebnis())));
+}

@@ -1,0 +1,190 @@
+#include "statistics/screens/frmSTAT1.h"
+
+#include "shell/elements/BildschirmVerzeichnis.h"
+#include "shell/elements/Farben.h"
+#include "shell/elements/Infotafel.h"
+#include "shell/elements/Lauf.h"
+#include "shell/elements/Stil.h"
+#include "shell/elements/Utf8.h"
+#include "shell/elements/Zeilendruck.h"
+#include "shell/logic/Spielarttexte.h"
+#include "statistics/screens/frmGraph.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr auto kInfo =
+    "Es wird ermittelt, wie oft jede der 49 Gewinnzahlen im gewählten Bereich gezogen wurde. Die größte Häufigkeit wird "
+    "rot, die kleinste cyan markiert.\n\n"
+    "Der Bereich wird nach Jahren gewählt, oder mit \"Z\" bis zu einer bestimmten Ziehung.\n\n";
+
+constexpr auto kInfoMittwoch =
+    "Bei ausgewählter Spielart Mittwochslotto wird die zusätzliche Befehlsschaltfläche Mittwochslotto (A+B) sichtbar. "
+    "Mit dieser Befehlsschaltfläche werden zusätzlich die Ziehungen der Ziehung B ausgewertet. Die Ziehung B wurde im "
+    "Mittwochslotto bis 29.11.2000 ausgespielt. Ausgewertet wird dabei ohne Zusatzzahl.";
+
+void gestalte(QLabel* zahl, QLabel* anzahl)
+{
+    zahl->setAlignment(Qt::AlignCenter);
+    anzahl->setAlignment(Qt::AlignCenter);
+    anzahl->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    anzahl->setMinimumSize(72, 24);
+    anzahl->setBackgroundRole(QPalette::Base);
+    faerbe(anzahl, anzahl->palette().color(QPalette::Base), Farben::Text);
+}
+
+/// Red for a highest count, cyan for a lowest one; where both hold, the lowest is marked last.
+void faerbeAnzahl(QLabel* anzahl, bool hoechste, bool niedrigste)
+{
+    if (niedrigste)
+        faerbe(anzahl, Farben::Markiert, Farben::Text);
+    else if (hoechste)
+        faerbe(anzahl, Farben::Hoechstwert, Farben::HoechstwertText);
+    else
+        faerbe(anzahl, anzahl->parentWidget()->palette().color(QPalette::Base), Farben::Text);
+}
+
+} // namespace
+
+frmSTAT1::frmSTAT1(Umgebung& umgebung)
+    : Bildschirm(umgebung, "frmSTAT1", "Häufigkeitsverteilung der einzelnen Gewinnzahlen"),
+      bereich_(new AuswertebereichView(*this)), infotafel_(new Infotafel(this, kInfoMittwoch))
+{
+    feld(bezeichnung59, "bezeichnung59", ab(1));
+    feld(bezeichnung114, "bezeichnung114", ab(1));
+    for (std::size_t i = 0; i < bezeichnung59.size(); ++i) {
+        gestalte(bezeichnung59[i], bezeichnung114[i]);
+        bezeichnung59[i]->setNum(static_cast<int>(i) + 1);
+        bezeichnung114[i]->setNum(0);
+    }
+    Bezeichnung3 = bezeichnung("Bezeichnung3");
+    Bezeichnung4 = bezeichnung("Bezeichnung4");
+    Bezeichnung6 = bezeichnung("Bezeichnung6");
+    Bezeichnung7 = bezeichnung("Bezeichnung7");
+    Bezeichnung57 = bezeichnung("Bezeichnung57", " Anzahl der ausgewerteten Ziehungen ->");
+    Bezeichnung58 = bezeichnung("Bezeichnung58");
+    Befehl1 = befehl("Befehl1", "&<<");
+    Befehl2 = befehl("Befehl2", "&ohne ZZ");
+    Befehl3 = befehl("Befehl3", "&mit ZZ");
+    Befehl4 = befehl("Befehl4", "&nur ZZ");
+    Befehl5 = befehl("Befehl5", "&Graphik", hinweis("Zeigt die Häufigkeitsverteilung in einer Graphik an."));
+    Befehl6 = befehl("Befehl6", "&Drucken");
+    Befehl7 = befehl("Befehl7", "i");
+    Befehl8 = befehl("Befehl8", "Mittwoch A+B zusammen (ohne ZZ)");
+    Befehl11 = befehl("Befehl11", "&Info");
+    Befehl6->setEnabled(false);
+    behaltePlatz(Befehl5);
+    Befehl5->hide();
+    alsUeberschrift(Bezeichnung7);
+
+    // clang-format off
+    setzeInhalt(spalte({
+        zeile({Bezeichnung7, luecke(), Bezeichnung6}),
+        zeile({
+            bereich_,
+            rahmen("Rahmen8", "Auswertung starten", zeile({Befehl2, Befehl3, Befehl4, Befehl8})),
+            luecke(),
+        }),
+        dehnbar(raster(7, bezeichnung59, bezeichnung114)),
+        zeile({
+            Bezeichnung57, Bezeichnung58, luecke(),
+            Bezeichnung3, luecke(), Bezeichnung4,
+        }),
+        zeile({Befehl5, Befehl6, Befehl11, Befehl7, luecke(), Befehl1}),
+    }));
+    // clang-format on
+
+    bei(Befehl1, [this] { schliesse(); });
+    bei(Befehl2, [this] { werteAus(ZZModus::Ohne); });
+    bei(Befehl3, [this] { werteAus(ZZModus::Mit); });
+    bei(Befehl4, [this] { werteAus(ZZModus::Nur); });
+    bei(Befehl5, [this] { zeigeGraphik(); });
+    bei(Befehl6, [this] { drucke(); });
+    bei(Befehl7, [this] { infotafel_->zeige(); });
+    bei(Befehl8, [this] { werteMittwochAus(); });
+    bei(Befehl11, [this] { this->umgebung().boxen.info(kInfotitel, kInfo + qt(kZusatzzahlHinweis)); });
+}
+
+void frmSTAT1::beimZeigen()
+{
+    Bezeichnung7->setText(qt(spielartGross(umgebung().archiv.Spielart)));
+    Befehl8->setVisible(umgebung().archiv.Spielart > Samstagslotto);
+    zeigeStand();
+}
+
+void frmSTAT1::zeigeStand() { Bezeichnung6->setText(qt(gespeicherteZiehungen(umgebung().archiv))); }
+
+void frmSTAT1::werteAus(ZZModus modus)
+{
+    Lauf lauf(*this);
+    if (!lauf)
+        return;
+    const auto bereich = bereich_->pruefe();
+    if (!bereich)
+        return;
+    ergebnis_ = ::werteAus(umgebung().archiv, *bereich, bereich_->angabe(), modus);
+    zeigeErgebnis();
+}
+
+void frmSTAT1::werteMittwochAus()
+{
+    Lauf lauf(*this);
+    if (!lauf || umgebung().archiv.Spielart <= Samstagslotto)
+        return;
+    const auto bereich = bereich_->pruefe();
+    if (!bereich)
+        return;
+    const bool vonB = umgebung().archiv.Spielart == MittwochslottoB;
+    ergebnis_ = ::werteAus(umgebung().archiv, *bereich, bereich_->angabe(), ZZModus::Ohne);
+    umgebung().menue->waehleSpielart(vonB ? Mittwochslotto : MittwochslottoB);
+    ergaenzeMittwoch(ergebnis_, umgebung().archiv);
+    if (!vonB)
+        umgebung().menue->waehleSpielart(Mittwochslotto);
+    bereich_->folgeArchiv();
+    zeigeStand();
+    zeigeErgebnis();
+}
+
+void frmSTAT1::zeigeErgebnis()
+{
+    const Extremwerte extreme = extremwerte(ergebnis_.haeufigkeit);
+    for (int zahl = 1; zahl <= 49; ++zahl) {
+        const auto stelle = static_cast<std::size_t>(zahl);
+        QLabel* anzahl = bezeichnung114[stelle - 1];
+        anzahl->setNum(ergebnis_.haeufigkeit.fuer(zahl));
+        faerbeAnzahl(anzahl, extreme.maxima[stelle], extreme.minima[stelle]);
+    }
+    Bezeichnung3->setText(qt(maximumText(extreme)));
+    Bezeichnung4->setText(qt(minimumText(extreme)));
+    Bezeichnung7->setText(qt(spielLabel(ergebnis_)));
+    Bezeichnung58->setNum(ergebnis_.haeufigkeit.AusgewerteteZiehungen);
+    Befehl5->setVisible(ergebnis_.angabe.form == Bereichsform::Jahre);
+    Befehl6->setEnabled(true);
+    setzeGrundtitel("Häufigkeitsverteilung der einzelnen Zahlen");
+    setzeTitel(qt(ergebniszeile(ergebnis_)));
+}
+
+void frmSTAT1::zeigeGraphik()
+{
+    umgebung().klang.SpieleKlang(1);
+    Befehl5->hide();
+    setzeTitel(frmGraph::kTitel);
+    umgebung().bildschirme->oeffne("frmGraph");
+}
+
+void frmSTAT1::drucke()
+{
+    if (!druckeZeilen(umgebung().drucker, grundtitel(), druckauftrag(ergebnis_)))
+        setzeTitel("Es ist kein Standarddrucker eingerichtet.");
+}
+
+bool frmSTAT1::kehrtZumMenueZurueck() const { return !umgebung().VorschlagLaeuft; }
+
+void frmSTAT1::beimSchliessen()
+{
+    if (Bildschirm* graph = umgebung().bildschirme->geladen("frmGraph"))
+        graph->schliesse();
+}

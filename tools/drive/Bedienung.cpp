@@ -1,0 +1,365 @@
+#include "tools/drive/Bedienung.h"
+
+#include "shell/app/Menuetafel.h"
+#include "shell/elements/Bildschirm.h"
+#include "shell/elements/Zeilenansicht.h"
+#include "tools/drive/Eingabe.h"
+#include "tools/drive/Feldwert.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QTimer>
+
+namespace {
+
+Antwort verweigert(const QString& grund) { return {{}, grund}; }
+
+/// Name of the menu's button for a screen; empty if it has none.
+QString menueknopf(const std::vector<std::vector<Menuegruppe>>& tafel, const QString& ziel)
+{
+    for (const auto& spalte : tafel) {
+        for (const Menuegruppe& gruppe : spalte) {
+            for (const Menueknopf& knopf : gruppe.knoepfe) {
+                if (knopf.ziel == ziel && knopf.oeffnung != Oeffnung::NurDruecken)
+                    return knopf.name;
+            }
+        }
+    }
+    return {};
+}
+
+QString popupeintrag(const QString& ziel)
+{
+    for (const Popupeintrag& eintrag : menueOption()) {
+        if (eintrag.ziel == ziel)
+            return eintrag.name;
+    }
+    return {};
+}
+
+QMenu* offenesMenue(const QAction* eintrag)
+{
+    auto* menue = qobject_cast<QMenu*>(eintrag->parent());
+    return menue && menue->isVisible() ? menue : nullptr;
+}
+
+QList<int> gewaehlteZeilen(const Zeilenansicht& ansicht)
+{
+    QList<int> gewaehlt;
+    for (int zeile = 0; zeile < ansicht.zeilenzahl(); ++zeile) {
+        if (ansicht.istGewaehlt(zeile))
+            gewaehlt.push_back(zeile);
+    }
+    return gewaehlt;
+}
+
+} // namespace
+
+Bedienung::Bedienung(Buehne& buehne) : buehne_(buehne) {}
+
+Bildschirm* Bedienung::aktuell()
+{
+    Bildschirm* bildschirm = buehne_.bildschirme.geladen(name_);
+    if (bildschirm && (bildschirm->isVisible() || bildschirm->laeuft()))
+        return bildschirm;
+    for (Bildschirm* anderer : buehne_.bildschirme.geladene()) {
+        if (anderer->isVisible()) {
+            name_ = anderer->name();
+            return anderer;
+        }
+    }
+    return bildschirm;
+}
+
+Antwort Bedienung::oeffne(const QString& bildschirm)
+{
+    if (!buehne_.bildschirme.kennt(bildschirm))
+        return verweigert("kein Bildschirm " + bildschirm);
+    const Bildschirm* menue = buehne_.bildschirme.geladen("frmLSTART");
+    if (menue && menue->isVisible() && bildschirm != menue->name()) {
+        const Antwort ausMenue = oeffneAusMenue(bildschirm);
+        if (!ausMenue.gelungen())
+            return ausMenue;
+    }
+    const Bildschirm* offen = buehne_.bildschirme.geladen(bildschirm);
+    if (!offen || !offen->isVisible())
+        buehne_.bildschirme.oeffne(bildschirm);
+    name_ = bildschirm;
+    return {};
+}
+
+Antwort Bedienung::oeffneAusMenue(const QString& bildschirm)
+{
+    name_ = "frmLSTART";
+    static const std::array<QString, 4> kOptionen{"Option1", "Option1", "Option2", "Option3"};
+    const QString knopf = menueknopf(menuewand(), bildschirm);
+    const QString rolloknopf = menueknopf(menuerollo(), bildschirm);
+    const QString eintrag = popupeintrag(bildschirm);
+    const bool gewoehnlich = !knopf.isEmpty() || !eintrag.isEmpty();
+    const auto* blende = static_cast<QWidget*>(finde("frameRollo"));
+
+    if (gewoehnlich && blende->isVisible())
+        klicke(kOptionen.at(static_cast<std::size_t>(buehne_.archiv.Spielart)));
+    else if (!rolloknopf.isEmpty() && !blende->isVisible())
+        klicke("Option4");
+
+    if (!knopf.isEmpty())
+        return klicke(knopf);
+    if (!rolloknopf.isEmpty())
+        return klicke(rolloknopf);
+    if (eintrag.isEmpty())
+        return {};
+    const Antwort popup = klicke("Befehl1");
+    return popup.gelungen() ? klicke(eintrag) : popup;
+}
+
+Antwort Bedienung::benutze(const QString& bildschirm)
+{
+    if (!buehne_.bildschirme.geladen(bildschirm))
+        return verweigert("nicht offen: " + bildschirm);
+    name_ = bildschirm;
+    return {};
+}
+
+Antwort Bedienung::schliesse()
+{
+    if (Bildschirm* bildschirm = aktuell())
+        bildschirm->schliesse();
+    aktuell();
+    return {};
+}
+
+QObject* Bedienung::finde(const QString& name)
+{
+    Bildschirm* bildschirm = aktuell();
+    if (!bildschirm)
+        return nullptr;
+    if (bildschirm->name() == name)
+        return bildschirm;
+    QObject* gefunden = nullptr;
+    for (QObject* feld : bildschirm->findChildren<QObject*>(name)) {
+        const auto* sichtbar = qobject_cast<QWidget*>(feld);
+        if (!gefunden || (sichtbar && sichtbar->isVisible()))
+            gefunden = feld;
+    }
+    return gefunden;
+}
+
+QWidget* Bedienung::bedienbar(const QString& name, Antwort& antwort)
+{
+    auto* feld = qobject_cast<QWidget*>(finde(name));
+    if (!feld)
+        antwort.grund = "kein Feld " + name;
+    else if (!feld->isVisible())
+        antwort.grund = name + " ist verborgen";
+    else if (!feld->isEnabled())
+        antwort.grund = name + " ist gesperrt";
+    return antwort.gelungen() ? feld : nullptr;
+}
+
+Zeilenansicht* Bedienung::ansicht(const QString& name, Antwort& antwort, bool bedienen)
+{
+    auto* ansicht = dynamic_cast<Zeilenansicht*>(finde(name));
+    if (!ansicht)
+        antwort.grund = "keine Liste " + name;
+    else if (bedienen && !bedienbar(name, antwort))
+        return nullptr;
+    return ansicht;
+}
+
+Antwort Bedienung::namen()
+{
+    Antwort antwort;
+    const Bildschirm* bildschirm = aktuell();
+    if (!bildschirm)
+        return verweigert("kein Bildschirm");
+    for (const QObject* feld : bildschirm->findChildren<QObject*>()) {
+        const bool zaehlt = feld->isWidgetType() || qobject_cast<const QAction*>(feld) || qobject_cast<const QTimer*>(feld);
+        if (zaehlt && !feld->objectName().isEmpty() && !feld->objectName().startsWith("qt_"))
+            antwort.zeilen << feld->objectName() + "\t" + feld->metaObject()->className() + "\t" + liesFeld(feld);
+    }
+    return antwort;
+}
+
+Antwort Bedienung::klicke(const QString& name)
+{
+    if (auto* eintrag = qobject_cast<QAction*>(finde(name))) {
+        QMenu* menue = offenesMenue(eintrag);
+        if (!menue || !eintrag->isEnabled())
+            return verweigert(name + (menue ? " ist gesperrt" : " ist verborgen"));
+        Eingabe::ueberfahre(menue, menue->actionGeometry(eintrag).center());
+        Eingabe::klicke(menue, menue->actionGeometry(eintrag).center());
+        return {};
+    }
+    Antwort antwort;
+    if (QWidget* feld = bedienbar(name, antwort))
+        Eingabe::klicke(feld, feld->rect().center());
+    return antwort;
+}
+
+Antwort Bedienung::doppelklicke(const QString& name)
+{
+    Antwort antwort;
+    if (QWidget* feld = bedienbar(name, antwort))
+        Eingabe::doppelklicke(feld, feld->rect().center());
+    return antwort;
+}
+
+Antwort Bedienung::ueberfahre(const QString& name)
+{
+    auto* feld = qobject_cast<QWidget*>(finde(name));
+    if (!feld || !feld->isVisible())
+        return verweigert(feld ? name + " ist verborgen" : "kein Feld " + name);
+    Eingabe::ueberfahre(feld, feld->rect().center());
+    return {};
+}
+
+Antwort Bedienung::druecke(const QString& name)
+{
+    Antwort antwort;
+    if (QWidget* feld = bedienbar(name, antwort))
+        Eingabe::druecke(feld, feld->rect().center());
+    return antwort;
+}
+
+Antwort Bedienung::lasseLos(const QString& name)
+{
+    Antwort antwort;
+    if (QWidget* feld = bedienbar(name, antwort))
+        Eingabe::lasseLos(feld, feld->rect().center());
+    return antwort;
+}
+
+Antwort Bedienung::setze(const QString& name, const QString& text)
+{
+    Antwort antwort;
+    if (QWidget* feld = bedienbar(name, antwort)) {
+        const QString grund = setzeFeld(feld, text);
+        if (!grund.isEmpty())
+            antwort.grund = name + ": " + grund;
+    }
+    return antwort;
+}
+
+Antwort Bedienung::tippe(const QString& name, const QString& tasten)
+{
+    Antwort antwort;
+    if (QWidget* feld = bedienbar(name, antwort))
+        Eingabe::tippe(feld, tasten);
+    return antwort;
+}
+
+Antwort Bedienung::waehle(const QString& name, const QList<int>& zeilen)
+{
+    Antwort antwort;
+    Zeilenansicht* liste = ansicht(name, antwort, true);
+    for (int i = 0; liste && i < zeilen.size(); ++i) {
+        const int zeile = zeilen[i];
+        if (zeile < 0 || zeile >= liste->zeilenzahl())
+            return verweigert(QString("%1 hat keine Zeile %2").arg(name).arg(zeile));
+        liste->zeigeZeile(zeile);
+        const QPoint ort(4, liste->zeilenrechteck(zeile).center().y());
+        Eingabe::klicke(liste->viewport(), ort, i == 0 ? Qt::NoModifier : Qt::ControlModifier);
+    }
+    return antwort;
+}
+
+Antwort Bedienung::ticke(const QString& name)
+{
+    auto* uhr = qobject_cast<QTimer*>(finde(name));
+    if (!uhr)
+        return verweigert("keine Uhr " + name);
+    QMetaObject::invokeMethod(uhr, "timeout", Qt::DirectConnection);
+    return {};
+}
+
+Antwort Bedienung::text(const QString& name)
+{
+    const QObject* feld = finde(name);
+    return feld ? Antwort{{liesFeld(feld)}, {}} : verweigert("kein Feld " + name);
+}
+
+Antwort Bedienung::zustand(const QString& name)
+{
+    const auto* feld = qobject_cast<QWidget*>(finde(name));
+    return feld ? Antwort{{zustandVon(feld)}, {}} : verweigert("kein Feld " + name);
+}
+
+Antwort Bedienung::anzahl(const QString& name)
+{
+    if (const auto* kombi = qobject_cast<QComboBox*>(finde(name)))
+        return {{QString::number(kombi->count())}, {}};
+    Antwort antwort;
+    if (const Zeilenansicht* liste = ansicht(name, antwort))
+        antwort.zeilen << QString::number(liste->zeilenzahl());
+    return antwort;
+}
+
+Antwort Bedienung::zeilen(const QString& name, int ab, int hoechstens)
+{
+    Antwort antwort;
+    const Zeilenansicht* liste = ansicht(name, antwort);
+    if (!liste)
+        return antwort;
+    const int bis = static_cast<int>(std::min<qint64>(liste->zeilenzahl(), qint64{ab} + hoechstens));
+    for (int zeile = std::max(0, ab); zeile < bis; ++zeile)
+        antwort.zeilen << liste->zeilentext(zeile);
+    return antwort;
+}
+
+Antwort Bedienung::gewaehlte(const QString& name)
+{
+    Antwort antwort;
+    const Zeilenansicht* liste = ansicht(name, antwort);
+    if (!liste)
+        return antwort;
+    QStringList nummern;
+    for (const int zeile : gewaehlteZeilen(*liste))
+        nummern << QString::number(zeile);
+    if (!nummern.isEmpty())
+        antwort.zeilen << nummern.join(',');
+    return antwort;
+}
+
+Antwort Bedienung::farben(const QString& name, int zeile)
+{
+    Antwort antwort;
+    const Zeilenansicht* liste = ansicht(name, antwort);
+    if (!liste)
+        return antwort;
+    if (zeile < 0 || zeile >= liste->zeilenzahl())
+        return verweigert(QString("%1 hat keine Zeile %2").arg(name).arg(zeile));
+    QStringList zellen;
+    for (const Zellfarben& farben : liste->zellfarben(zeile))
+        zellen << farben.grund.name() + "/" + farben.schrift.name();
+    antwort.zeilen << zellen.join('\t');
+    return antwort;
+}
+
+Antwort Bedienung::eintraege(const QString& name)
+{
+    const auto* kombi = qobject_cast<QComboBox*>(finde(name));
+    if (!kombi)
+        return verweigert("keine Auswahl " + name);
+    Antwort antwort;
+    for (int i = 0; i < kombi->count(); ++i)
+        antwort.zeilen << kombi->itemText(i);
+    return antwort;
+}
+
+Antwort Bedienung::titel()
+{
+    const Bildschirm* bildschirm = aktuell();
+    return bildschirm ? Antwort{{bildschirm->windowTitle()}, {}} : verweigert("kein Bildschirm");
+}
+
+Antwort Bedienung::bild(const QString& datei)
+{
+    Bildschirm* bildschirm = aktuell();
+    if (!bildschirm)
+        return verweigert("kein Bildschirm");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    return bildschirm->grab().save(datei) ? Antwort{} : verweigert("nicht zu schreiben: " + datei);
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "tools/drive/Buehne.h"
+
+#include <QStringList>
+
+class QAction;
+class QTimer;
+class Zeilenansicht;
+
+/// What an operation gave: lines to read, or why it could not be done.
+struct Antwort {
+    QStringList zeilen;
+    QString grund;
+
+    bool gelungen() const { return grund.isEmpty(); }
+};
+
+/// Works the screens as a user would: by the names of their controls, with real mouse and key events. A control that
+/// is missing, hidden or disabled refuses. Rows count from 0.
+class Bedienung {
+public:
+    explicit Bedienung(Buehne& buehne);
+
+    /// The screen that the operations go to: the one opened last, and after it is closed the one that is shown.
+    Bildschirm* aktuell();
+
+    Antwort oeffne(const QString& bildschirm);
+    Antwort benutze(const QString& bildschirm);
+    Antwort schliesse();
+    Antwort namen();
+
+    Antwort klicke(const QString& name);
+    Antwort doppelklicke(const QString& name);
+    Antwort ueberfahre(const QString& name);
+    Antwort druecke(const QString& name);
+    Antwort lasseLos(const QString& name);
+    Antwort setze(const QString& name, const QString& text);
+    Antwort tippe(const QString& name, const QString& tasten);
+    Antwort waehle(const QString& name, const QList<int>& zeilen);
+    Antwort ticke(const QString& name);
+
+    Antwort text(const QString& name);
+    Antwort zustand(const QString& name);
+    Antwort anzahl(const QString& name);
+    Antwort zeilen(const QString& name, int ab, int hoechstens);
+    Antwort gewaehlte(const QString& name);
+    Antwort farben(const QString& name, int zeile);
+    Antwort eintraege(const QString& name);
+    Antwort titel();
+    Antwort bild(const QString& datei);
+
+private:
+    QObject* finde(const QString& name);
+    /// The widget of that name, if a user could use it now; otherwise null and the reason.
+    QWidget* bedienbar(const QString& name, Antwort& antwort);
+    Zeilenansicht* ansicht(const QString& name, Antwort& antwort, bool bedienen = false);
+    Antwort oeffneAusMenue(const QString& bildschirm);
+
+    Buehne& buehne_;
+    QString name_ = "frmLSTART";
+};

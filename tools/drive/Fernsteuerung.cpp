@@ -1,0 +1,233 @@
+#include "tools/drive/Fernsteuerung.h"
+
+#include "shell/elements/Bildschirm.h"
+
+#include <QDateTime>
+
+namespace {
+
+constexpr int kTakt = 2;             ///< milliseconds between two looks at a wait
+constexpr int kRuhewartezeit = 60000;
+
+/// In an answer a line break is "\n".
+QString einzeilig(QString text) { return text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\\n"); }
+
+/// The first word and the rest behind one blank; a rest keeps its own blanks.
+std::pair<QString, QString> teile(const QString& zeile)
+{
+    const qsizetype luecke = zeile.indexOf(' ');
+    return luecke < 0 ? std::pair(zeile, QString()) : std::pair(zeile.left(luecke), zeile.mid(luecke + 1));
+}
+
+bool istAntwort(const QString& wort)
+{
+    return wort == "yes" || wort == "no" || wort == "ok" || wort == "cancel" || wort.startsWith("text:") ||
+           wort.startsWith("file:");
+}
+
+} // namespace
+
+Fernsteuerung::Fernsteuerung(Buehne& buehne, std::function<void(const QString&)> ausgabe)
+    : buehne_(buehne), bedienung_(buehne), ausgabe_(std::move(ausgabe)), befehle_(befehle())
+{
+    takt_.setInterval(kTakt);
+    connect(&takt_, &QTimer::timeout, this, [this] { arbeite(); });
+    buehne_.pumpe.beiZug = [this] { arbeite(); };
+    takt_.start();
+}
+
+std::map<QString, Fernsteuerung::Befehl> Fernsteuerung::befehle()
+{
+    Bedienung& b = bedienung_;
+    const auto mitText = [](const QString& rest, const auto& tue) {
+        const auto [name, text] = teile(rest);
+        return tue(name, text);
+    };
+    return {
+        {"screens", [this](auto&) { return bildschirme(); }},
+        {"open", [&b](auto& rest) { return b.oeffne(rest); }},
+        {"use", [&b](auto& rest) { return b.benutze(rest); }},
+        {"close", [&b](auto&) { return b.schliesse(); }},
+        {"names", [&b](auto&) { return b.namen(); }},
+        {"click", [&b](auto& rest) { return b.klicke(rest); }},
+        {"dblclick", [&b](auto& rest) { return b.doppelklicke(rest); }},
+        {"hover", [&b](auto& rest) { return b.ueberfahre(rest); }},
+        {"press", [&b](auto& rest) { return b.druecke(rest); }},
+        {"release", [&b](auto& rest) { return b.lasseLos(rest); }},
+        {"set", [&b, mitText](auto& rest) { return mitText(rest, [&b](auto& n, auto& t) { return b.setze(n, t); }); }},
+        {"key", [&b, mitText](auto& rest) { return mitText(rest, [&b](auto& n, auto& t) { return b.tippe(n, t); }); }},
+        {"select", [this](auto& rest) { return waehle(rest); }},
+        {"get", [&b](auto& rest) { return b.text(rest); }},
+        {"state", [&b](auto& rest) { return b.zustand(rest); }},
+        {"count", [&b](auto& rest) { return b.anzahl(rest); }},
+        {"rows", [this](auto& rest) { return zeilen(rest); }},
+        {"selected", [&b](auto& rest) { return b.gewaehlte(rest); }},
+        {"colors", [&b, mitText](auto& rest) { return mitText(rest, [&b](auto& n, auto& t) { return b.farben(n, t.toInt()); }); }},
+        {"items", [&b](auto& rest) { return b.eintraege(rest); }},
+        {"title", [&b](auto&) { return b.titel(); }},
+        {"boxes", [this](auto&) { return zeigeBoxen(); }},
+        {"answer", [this](auto& rest) { return antworte(rest); }},
+        {"clipboard", [this](auto&) { return Antwort{{buehne_.zwischenablage.text()}, {}}; }},
+        {"opened", [this](auto&) { return Antwort{buehne_.oeffner.entnehme(), {}}; }},
+        {"printer", [this](auto& rest) { buehne_.drucker.setzeDatei(rest == "none" ? QString() : rest); return Antwort{}; }},
+        {"clock", [this](auto& rest) { return stelleUhr(rest); }},
+        {"seed", [this](auto& rest) { return stelleZufall(rest); }},
+        {"tick", [&b](auto& rest) { return b.ticke(rest); }},
+        {"wait", [this](auto& rest) { return warte(rest); }},
+        {"wait-idle", [this](auto& rest) { return warteAufRuhe(rest); }},
+        {"shot", [&b](auto& rest) { return b.bild(rest); }},
+        {"time", [this](auto&) { return Antwort{{QString::number(letzteDauer_, 'f', 3)}, {}}; }},
+        {"quit", [this](auto&) { ende(); return Antwort{}; }},
+    };
+}
+
+void Fernsteuerung::nimm(const QString& zeile)
+{
+    offen_.push_back(zeile);
+    arbeite();
+}
+
+void Fernsteuerung::nimmEnde()
+{
+    eingabeZuEnde_ = true;
+    arbeite();
+}
+
+bool Fernsteuerung::wartet()
+{
+    if (wartezeit_ < 0 || seitWarten_.elapsed() >= wartezeit_)
+        return false;
+    if (!bisRuhe_)
+        return true;
+    Bildschirm* bildschirm = bedienung_.aktuell();
+    return bildschirm && bildschirm->laeuft();
+}
+
+void Fernsteuerung::arbeite()
+{
+    while (!endet_ && !wartet()) {
+        wartezeit_ = -1;
+        if (offen_.empty()) {
+            if (eingabeZuEnde_)
+                ende();
+            return;
+        }
+        const QString zeile = offen_.front();
+        offen_.pop_front();
+        fuehreAus(zeile);
+    }
+}
+
+void Fernsteuerung::fuehreAus(const QString& zeile)
+{
+    if (zeile.trimmed().isEmpty() || zeile.startsWith('#'))
+        return;
+    ausgabe_("> " + zeile);
+    const auto [wort, rest] = teile(zeile);
+    const auto befehl = befehle_.find(wort);
+    QElapsedTimer stoppuhr;
+    stoppuhr.start();
+    const Antwort antwort =
+        befehl == befehle_.end() ? Antwort{{}, "unbekannter Befehl " + wort} : befehl->second(rest);
+    if (wort != "time")
+        letzteDauer_ = static_cast<double>(stoppuhr.nsecsElapsed()) / 1e6;
+    gibAus(antwort);
+}
+
+void Fernsteuerung::gibAus(const Antwort& antwort)
+{
+    for (const QString& zeile : antwort.zeilen)
+        ausgabe_("  " + einzeilig(zeile));
+    if (antwort.gelungen())
+        return;
+    missglueckt_ = true;
+    ausgabe_("! " + antwort.grund);
+}
+
+void Fernsteuerung::ende()
+{
+    endet_ = true;
+    buehne_.pumpe.beendet = true;
+    if (beiEnde)
+        beiEnde();
+}
+
+Antwort Fernsteuerung::warte(const QString& millisekunden)
+{
+    wartezeit_ = millisekunden.toInt();
+    bisRuhe_ = false;
+    seitWarten_.start();
+    return {};
+}
+
+Antwort Fernsteuerung::warteAufRuhe(const QString& millisekunden)
+{
+    wartezeit_ = millisekunden.isEmpty() ? kRuhewartezeit : millisekunden.toInt();
+    bisRuhe_ = true;
+    seitWarten_.start();
+    return {};
+}
+
+Antwort Fernsteuerung::bildschirme() const
+{
+    Antwort antwort;
+    for (const QString& name : buehne_.bildschirme.namen())
+        antwort.zeilen << name;
+    return antwort;
+}
+
+Antwort Fernsteuerung::zeigeBoxen()
+{
+    Antwort antwort;
+    for (const GezeigteBox& box : buehne_.boxen.entnehme())
+        antwort.zeilen << box.art + "\t" + box.titel + "\t" + box.text + "\t" + box.antwort;
+    return antwort;
+}
+
+Antwort Fernsteuerung::antworte(const QString& werte)
+{
+    QStringList antworten;
+    for (const QString& wort : werte.split(' ')) {
+        if (istAntwort(wort))
+            antworten << wort;
+        else if (antworten.isEmpty() || !antworten.last().contains(':'))
+            return {{}, "keine Antwort " + wort};
+        else
+            antworten.last() += " " + wort;
+    }
+    for (const QString& antwort : antworten)
+        buehne_.boxen.antworte(antwort);
+    return {};
+}
+
+Antwort Fernsteuerung::zeilen(const QString& rest)
+{
+    const QStringList worte = rest.split(' ', Qt::SkipEmptyParts);
+    const int ab = worte.size() > 1 ? worte[1].toInt() : 0;
+    const int hoechstens = worte.size() > 2 ? worte[2].toInt() : std::numeric_limits<int>::max();
+    return bedienung_.zeilen(worte.value(0), ab, hoechstens);
+}
+
+Antwort Fernsteuerung::waehle(const QString& rest)
+{
+    const auto [name, nummern] = teile(rest);
+    QList<int> zeilen;
+    for (const QString& nummer : nummern.split(',', Qt::SkipEmptyParts)) {
+        bool zahl = false;
+        zeilen << nummer.trimmed().toInt(&zahl);
+        if (!zahl)
+            return {{}, "keine Zeile " + nummer};
+    }
+    return bedienung_.waehle(name, zeilen);
+}
+
+Antwort Fernsteuerung::stelleUhr(const QString& zeit)
+{
+    return buehne_.uhr.stelle(zeit.toStdString()) ? Antwort{} : Antwort{{}, "keine Zeit " + zeit};
+}
+
+Antwort Fernsteuerung::stelleZufall(const QString& saat)
+{
+    buehne_.zufall.stelle(saat.toULongLong());
+    return {};
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+
+/// Writes the three sample Ziehungsdateien of the day `stand` into a folder (UTF-8), which is made if it is missing.
+///
+/// Returns the reason if it fails, a German sentence; no file has been written then. A file that is already there, in
+/// whatever case its name is written, is never overwritten: it could hold real draws.
+std::optional<std::string> schreibeMusterDateien(const std::string& ordner, std::chrono::sys_days stand);
