@@ -29,17 +29,22 @@ function(tombrix_bildschirme name)
     endif()
 endfunction()
 
-# LABEL is one of logic, gui, architektur, real, long. A `gui` program brings its own main() with a QApplication.
+# LABEL is one of logic, gui, architektur, real, long. A `gui` program stands on the stage of tools/drive, which brings
+# its main(). The target tests-<label> builds all programs of a label.
 function(tombrix_test name)
     cmake_parse_arguments(ziel "" "LABEL" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ziel_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ziel_LINKS} GTest::gmock GTest::gtest)
     if(ziel_LABEL STREQUAL "gui")
-        target_link_libraries(${name} PRIVATE test_haupt_gui)
+        target_link_libraries(${name} PRIVATE buehnentest)
     else()
         target_link_libraries(${name} PRIVATE GTest::gtest_main)
     endif()
+    if(NOT TARGET tests-${ziel_LABEL})
+        add_custom_target(tests-${ziel_LABEL})
+    endif()
+    add_dependencies(tests-${ziel_LABEL} ${name})
     include(GoogleTest)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
         PROPERTIES LABELS ${ziel_LABEL} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")

@@ -1,7 +1,8 @@
 #include "listcontrol/logic/ListenModell.h"
 
+#include "listcontrol/logic/Textsortierung.h"
+
 #include <algorithm>
-#include <iterator>
 
 void ListenModell::melde(Aenderung aenderung) const
 {
@@ -186,7 +187,7 @@ void ListenModell::ordneEin() const
         return;
     }
     const auto neue = zeilen_.begin() + static_cast<std::ptrdiff_t>(geordnete_);
-    std::sort(neue, zeilen_.end()); // equal rows cannot be told apart
+    sortiereTexte({neue, zeilen_.end()}); // equal rows cannot be told apart
     rueckeAuswahl();
     std::inplace_merge(zeilen_.begin(), neue, zeilen_.end());
     geordnete_ = zeilen_.size();

@@ -143,10 +143,8 @@ TEST(ShellSort, GleicheSchluesselStehenWieNachDenAbstaenden)
 TEST(ShellSort, SortiertAlleFolgenBisSiebenElemente)
 {
     for (int anzahl = 0; anzahl <= 7; ++anzahl) {
-        std::vector<int> folge;
-        for (int i = 0; i < anzahl; ++i) {
-            folge.push_back(i);
-        }
+        std::vector<int> folge(static_cast<std::size_t>(anzahl));
+        std::iota(folge.begin(), folge.end(), 0);
         do {
             std::vector<int> feld = folge;
             ShellSort(feld, &vergleiche);

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kPuffer = 256 * 1024;
+constexpr std::size_t kPuffer = 262'144;
 constexpr int kVersuche = 1000;
 constexpr unsigned kRechteNeu = 0666; ///< less what the user's mask takes away
 constexpr unsigned kAlleRechte = 0777;
@@ -223,7 +223,7 @@ std::optional<std::string> leseDatei(const fs::path& datei, std::size_t hoechste
 
 fs::path findeDatei(const fs::path& ordner, std::string_view name)
 {
-    const fs::path genau = ordner / fs::path(name);
+    fs::path genau = ordner / fs::path(name);
     std::error_code fehler;
     if (fs::exists(genau, fehler)) {
         return genau;

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t kGroessteDatei = 1024 * 1024;
+constexpr std::size_t kGroessteDatei = 1'048'576;
 constexpr std::size_t kLaengsterWert = 254;
 constexpr std::string_view kLeer = " \t";
 constexpr std::string_view kZeilenende = "\r\n";

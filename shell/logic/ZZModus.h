@@ -46,8 +46,14 @@ inline std::string zzKurztext(ZZModus modus)
 }
 
 /// Button captions with their mnemonic: "&ohne Zusatzzahl" and "&ohne ZZ".
-inline std::string zzBefehl(ZZModus modus) { return std::string("&").append(zzText(modus)); }
-inline std::string zzKurzbefehl(ZZModus modus) { return std::string("&").append(zzKurztext(modus)); }
+inline std::string zzBefehl(ZZModus modus)
+{
+    return std::string("&").append(zzText(modus));
+}
+inline std::string zzKurzbefehl(ZZModus modus)
+{
+    return std::string("&").append(zzKurztext(modus));
+}
 
 inline constexpr std::string_view kZusatzzahlHinweis =
     "Hinweis: Eine Zusatzzahl wurde erst ab der 25. Spielwoche 1956 ermittelt.";

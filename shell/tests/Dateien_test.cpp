@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kGenug = 1024 * 1024;
+constexpr std::size_t kGenug = 1'048'576;
 
 fs::perms rechte(const fs::path& datei)
 {

@@ -166,7 +166,7 @@ TEST_F(IniDatei, WasNichtLesbarIstWirdNichtUeberschrieben)
     fs::create_directory(datei);
     EXPECT_FALSE(IniSchreiben(datei, "A", "k", "2"));
     EXPECT_EQ(IniLesen(datei, "A", "k"), "");
-    const std::string riesig(2 * 1024 * 1024, ';');
+    const std::string riesig(2'000'000, ';');
     const fs::path gross = ordner.lege("gross.ini", riesig);
     EXPECT_FALSE(IniSchreiben(gross, "A", "k", "2"));
     EXPECT_EQ(inhaltVon(gross), riesig);

@@ -10,12 +10,10 @@
 
 namespace {
 
-std::vector<double> folge(Zufall& zufall, int anzahl)
+std::vector<double> folge(Zufall& zufall, std::size_t anzahl)
 {
-    std::vector<double> werte;
-    for (int i = 0; i < anzahl; ++i) {
-        werte.push_back(zufall.Rnd());
-    }
+    std::vector<double> werte(anzahl);
+    std::ranges::generate(werte, [&] { return zufall.Rnd(); });
     return werte;
 }
 

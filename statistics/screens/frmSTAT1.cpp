@@ -60,8 +60,8 @@ frmSTAT1::frmSTAT1(Umgebung& umgebung)
         bezeichnung59[i]->setNum(static_cast<int>(i) + 1);
         bezeichnung114[i]->setNum(0);
     }
-    Bezeichnung3 = bezeichnung("Bezeichnung3");
-    Bezeichnung4 = bezeichnung("Bezeichnung4");
+    Bezeichnung3 = bezeichnung("Bezeichnung3", "max");
+    Bezeichnung4 = bezeichnung("Bezeichnung4", "min");
     Bezeichnung6 = bezeichnung("Bezeichnung6");
     Bezeichnung7 = bezeichnung("Bezeichnung7");
     Bezeichnung57 = bezeichnung("Bezeichnung57", " Anzahl der ausgewerteten Ziehungen ->");

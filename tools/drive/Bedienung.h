@@ -5,7 +5,9 @@
 #include <QStringList>
 
 class QAction;
+class QObject;
 class QTimer;
+class QWidget;
 class Zeilenansicht;
 
 /// What an operation gave: lines to read, or why it could not be done.

@@ -1,0 +1,4 @@
+#include "archive/logic/ZiehungsArchiv.h"
+
+int ziehungen(const ZiehungsArchiv& archiv);
+int ziehungen(const ZiehungsArchiv& archiv) { return archiv.AnzahlZiehungen; }

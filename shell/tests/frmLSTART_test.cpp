@@ -1,0 +1,333 @@
+#include "shell/app/Menuetafel.h"
+#include "shell/elements/Bildschirm.h"
+#include "tools/drive/Buehnentest.h"
+
+#include <QImage>
+
+#include <set>
+
+namespace {
+
+/// A tool that is there only to be opened.
+class Werkzeug final : public Bildschirm {
+public:
+    explicit Werkzeug(Umgebung& umgebung, const QString& name) : Bildschirm(umgebung, name, name) {}
+    void druckeStart() override { ++gestartet; }
+    int gestartet = 0;
+};
+
+class Auswahlmenue : public Buehnentest {
+protected:
+    void registriere(const QString& name)
+    {
+        buehne.bildschirme.registriere(
+            name, [name](Umgebung& umgebung) { return std::make_unique<Werkzeug>(umgebung, name); });
+    }
+
+    std::set<int> tipp()
+    {
+        std::set<int> zahlen;
+        for (int zahl = 1; zahl <= 49; ++zahl) {
+            const QString zelle = zustand(QString("Bezeichnung1(%1)").arg(zahl));
+            if (zelle.contains("back=#00ffff") && zelle.contains("fore=#ff0000") && zelle.contains("bold=true"))
+                zahlen.insert(zahl);
+        }
+        return zahlen;
+    }
+
+    QString status() { return lies("Bezeichnung2"); }
+    const QString samstag = "*** Letzte eingetragene Ziehung in Gewinnzahl-Datei (SALOTTO.DAT; Samstagslotto) ->  "
+                            "2026/46 vom Sa, 14.11.2026 ***";
+};
+
+TEST_F(Auswahlmenue, BeginntAufSamstagslotto)
+{
+    starte();
+    EXPECT_EQ(titel(), "Lotto-Auswahlmenü");
+    EXPECT_TRUE(zustand("Option1").contains("checked=true"));
+    EXPECT_EQ(buehne.archiv.Spielart, Samstagslotto);
+    EXPECT_EQ(status(), samstag);
+    EXPECT_EQ(lies("Bezeichnung3(0)"), "Samstagslotto 6 aus 49");
+    EXPECT_EQ(lies("Bezeichnung3(1)"), "Samstagslotto 6 aus 49");
+    EXPECT_FALSE(sichtbar("frameRollo"));
+}
+
+TEST_F(Auswahlmenue, WechseltDieSpielartUndLaedtNeu)
+{
+    starte();
+    klicke("Option2");
+    EXPECT_EQ(buehne.archiv.Spielart, Mittwochslotto);
+    EXPECT_EQ(lies("Bezeichnung3(1)"), "Mittwochslotto 6 aus 49 ");
+    EXPECT_EQ(status(), "*** Letzte eingetragene Ziehung in Gewinnzahl-Datei (MALOTTO.DAT; Mittwochslotto A) ->  "
+                        "2026/46 vom Mi, 11.11.2026 ***");
+    klicke("Option3");
+    EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 757);
+    EXPECT_EQ(lies("Bezeichnung3(1)"), "Mittwochslotto 6 aus 49 (B)");
+    EXPECT_EQ(status(), "*** Letzte eingetragene Ziehung in Gewinnzahl-Datei (MBLOTTO.DAT; Mittwochslotto B) ->  "
+                        "2000/48 vom Mi, 29.11.2000 ***");
+    klicke("Option1");
+    EXPECT_EQ(status(), samstag);
+    EXPECT_EQ(titel(), "Lotto-Auswahlmenü");
+}
+
+TEST_F(Auswahlmenue, SperrtDreiKnoepfeNurBeiMittwochB)
+{
+    for (const char* name : {"frmAnzeige", "frmTA", "frmVorschlag"})
+        registriere(name);
+    starte();
+    const QStringList knoepfe{"Befehl3", "Befehl1", "Befehl18"};
+    for (const auto& [option, erlaubt] : {std::pair("Option1", true), std::pair("Option3", false),
+                                          std::pair("Option2", true), std::pair("Option3", false)}) {
+        klicke(option);
+        for (const QString& knopf : knoepfe)
+            EXPECT_EQ(bedienbar(knopf), erlaubt) << option << knopf.toStdString();
+    }
+}
+
+TEST_F(Auswahlmenue, LaesstEinenKnopfOhneWerkzeugGrauUndZeigtSeinenHinweis)
+{
+    registriere("frmOnline");
+    starte();
+    EXPECT_TRUE(bedienbar("Command5"));
+    EXPECT_FALSE(bedienbar("Befehl11"));
+    ueberfahre("Befehl11");
+    EXPECT_EQ(status(), "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit 1955");
+    klicke("Option3");
+    EXPECT_TRUE(bedienbar("Command5"));
+    ueberfahre("Befehl2");
+    EXPECT_EQ(status(), "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung 1986");
+}
+
+TEST_F(Auswahlmenue, ZeigtUeberDerFormWiederDieLetzteZiehung)
+{
+    starte();
+    for (const char* option : {"Option2", "Option3", "Option1"}) {
+        klicke(option);
+        const QString nachWechsel = status();
+        ueberfahre("Befehl2");
+        EXPECT_NE(status(), nachWechsel);
+        ueberfahre("frmLSTART");
+        EXPECT_EQ(status(), nachWechsel) << option;
+    }
+}
+
+TEST_F(Auswahlmenue, ZusammenVerdecktDieWandUndLaesstSpielartUndStatus)
+{
+    starte();
+    klicke("Option2");
+    const QString vorher = status();
+    klicke("Option4");
+    EXPECT_TRUE(sichtbar("frameRollo"));
+    EXPECT_FALSE(sichtbar("Befehl10"));
+    EXPECT_FALSE(sichtbar("Befehl2"));
+    EXPECT_EQ(buehne.archiv.Spielart, Mittwochslotto);
+    EXPECT_EQ(status(), vorher);
+    EXPECT_EQ(lies("txtRollo"), "Mit diesen Programmfunktionen können die Ziehungen des Samstags- und Mittwochslotto "
+                                "zusammen ausgewertet werden.");
+    ueberfahre("cmdGU");
+    const QString hinweis = status();
+    EXPECT_EQ(hinweis, "Sucht Ziehungen mit einem bestimmten Verhältnis gerade zu ungeraden Gewinnzahlen.");
+    ueberfahre("frmLSTART");
+    EXPECT_EQ(status(), hinweis);
+    klicke("Option1");
+    EXPECT_FALSE(sichtbar("frameRollo"));
+    EXPECT_TRUE(sichtbar("Befehl10"));
+}
+
+TEST_F(Auswahlmenue, TipptSechsZahlenBeiJederMausbewegungUeberBeenden)
+{
+    buehne.zufall.stelle(7);
+    starte();
+    const std::set<int> erster = tipp();
+    EXPECT_EQ(erster.size(), 6u);
+    ueberfahre("Befehl13");
+    EXPECT_EQ(status(), "Beendet das Programm.");
+    const std::set<int> zweiter = tipp();
+    EXPECT_EQ(zweiter.size(), 6u);
+    ueberfahre("Befehl13");
+    const std::set<int> dritter = tipp();
+    EXPECT_EQ(dritter.size(), 6u);
+    EXPECT_TRUE(erster != zweiter || zweiter != dritter);
+    ueberfahre("Befehl2");
+    EXPECT_EQ(tipp(), dritter);
+}
+
+TEST_F(Auswahlmenue, DerTippNimmtKeineKlicks)
+{
+    starte();
+    const std::set<int> vorher = tipp();
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        klicke(QString("Bezeichnung1(%1)").arg(zahl));
+    EXPECT_EQ(tipp(), vorher);
+}
+
+TEST_F(Auswahlmenue, OeffnetEinWerkzeugMitKlangUndVerbirgtSich)
+{
+    starte();
+    oeffne("frmSTAT1");
+    EXPECT_EQ(buehne.klang.gespielt, std::vector<int>{1});
+    EXPECT_FALSE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
+    schliesse();
+    EXPECT_TRUE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
+    EXPECT_EQ(buehne.bildschirme.geladen("frmSTAT1"), nullptr);
+}
+
+TEST_F(Auswahlmenue, DruecktDenStartknopfVonExcelUndPdfUndBleibt)
+{
+    registriere("frmExcel");
+    registriere("formConvertToPDF");
+    starte();
+    klicke("Command10");
+    klicke("Command11");
+    for (const char* name : {"frmExcel", "formConvertToPDF"}) {
+        const auto* werkzeug = dynamic_cast<Werkzeug*>(buehne.bildschirme.geladen(name));
+        ASSERT_NE(werkzeug, nullptr) << name;
+        EXPECT_EQ(werkzeug->gestartet, 1);
+        EXPECT_FALSE(werkzeug->isVisible());
+    }
+    EXPECT_TRUE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
+}
+
+TEST_F(Auswahlmenue, OeffnetJedesWerkzeugUeberSeinenKnopf)
+{
+    std::vector<QString> ziele;
+    for (const auto* tafel : {&menuewand(), &menuerollo()}) {
+        for (const auto& spalte : *tafel) {
+            for (const Menuegruppe& gruppe : spalte) {
+                for (const Menueknopf& knopf : gruppe.knoepfe) {
+                    if (*knopf.ziel && !buehne.bildschirme.kennt(knopf.ziel))
+                        registriere(knopf.ziel);
+                    if (*knopf.ziel && knopf.oeffnung != Oeffnung::NurDruecken)
+                        ziele.push_back(knopf.ziel);
+                }
+            }
+        }
+    }
+    starte();
+    EXPECT_EQ(ziele.size(), 54u);
+    for (const QString& ziel : ziele) {
+        oeffne(ziel);
+        ASSERT_NE(buehne.bildschirme.geladen(ziel), nullptr) << ziel.toStdString();
+        EXPECT_TRUE(buehne.bildschirme.geladen(ziel)->isVisible()) << ziel.toStdString();
+        EXPECT_FALSE(buehne.bildschirme.geladen("frmLSTART")->isVisible()) << ziel.toStdString();
+        schliesse();
+    }
+}
+
+TEST_F(Auswahlmenue, DasPopupSetztSeinenHakenUndOeffnet)
+{
+    for (const char* ziel : {"frmVorschlag", "GLOTTO", "frmKugel1"})
+        registriere(ziel);
+    starte();
+    klicke("Befehl1");
+    klicke("mnuSchein");
+    EXPECT_TRUE(buehne.bildschirme.geladen("GLOTTO")->isVisible());
+    schliesse();
+    klicke("Befehl1");
+    klicke("mnuStatistik");
+    EXPECT_TRUE(buehne.bildschirme.geladen("frmVorschlag")->isVisible());
+    schliesse();
+    const auto haken = [this](const char* name) {
+        return buehne.bildschirme.geladen("frmLSTART")->findChild<QAction*>(name)->isChecked();
+    };
+    EXPECT_TRUE(haken("mnuStatistik"));
+    EXPECT_FALSE(haken("mnuSchein"));
+}
+
+TEST_F(Auswahlmenue, EinVerborgenerEintragDesPopupsLaesstSichNichtWaehlen)
+{
+    registriere("GLOTTO");
+    starte();
+    EXPECT_FALSE(bedienung.klicke("mnuSchein").gelungen());
+    klicke("Befehl1");
+    EXPECT_FALSE(bedienung.klicke("mnuAnimat").gelungen());
+}
+
+TEST_F(Auswahlmenue, ReichtHilfeUndSpendenseiteWeiter)
+{
+    starte();
+    klicke("Befehl15");
+    klicke("cmdPaypal");
+    const QStringList geoeffnet = buehne.oeffner.entnehme();
+    ASSERT_EQ(geoeffnet.size(), 2);
+    EXPECT_EQ(geoeffnet[0], QString::fromStdString(buehne.archiv.ProgrammVerzeichnis) + "lotto-hilfe.html");
+    EXPECT_TRUE(geoeffnet[1].startsWith("https://"));
+}
+
+TEST_F(Auswahlmenue, BevorzugtDieKompilierteHilfeWennSieDaIst)
+{
+    schreibe("lotto-hilfe.chm", {"x"});
+    starte();
+    klicke("Befehl15");
+    EXPECT_EQ(buehne.oeffner.entnehme(),
+              QStringList{QString::fromStdString(buehne.archiv.ProgrammVerzeichnis) + "lotto-hilfe.chm"});
+}
+
+TEST_F(Auswahlmenue, ErklaertSamstagUndMittwochZusammen)
+{
+    starte();
+    klicke("Option4");
+    klicke("cmdInfo2");
+    const QStringList gezeigt = boxen();
+    ASSERT_EQ(gezeigt.size(), 1);
+    EXPECT_TRUE(gezeigt[0].startsWith("info|Tombrix|Bis Juni 2013 wurden"));
+    EXPECT_TRUE(gezeigt[0].endsWith("auch zusammen für das Samstags- und Mittwochslotto ausgewertet werden."));
+    EXPECT_EQ(gezeigt[0].count('\n'), 3);
+}
+
+TEST_F(Auswahlmenue, MaltDenFarblaufVonGruenNachSchwarz)
+{
+    starte();
+    Bildschirm* menue = buehne.bildschirme.geladen("frmLSTART");
+    const QImage bild = menue->grab().toImage();
+    EXPECT_EQ(bild.pixelColor(2, 0), QColor(0, 255, 0));
+    EXPECT_EQ(bild.pixelColor(2, bild.height() - 2), QColor(0, 22, 0));
+    int vorher = 256;
+    for (int y = 0; y < bild.height() - 60; ++y) {
+        const QColor farbe = bild.pixelColor(2, y);
+        EXPECT_EQ(farbe.red() + farbe.blue(), 0);
+        EXPECT_LE(farbe.green(), vorher);
+        vorher = farbe.green();
+    }
+}
+
+TEST_F(Auswahlmenue, EineUnlesbareDateiLaesstDieStatuszeileStehen)
+{
+    schreibe("MALOTTO.DAT", {"1986,23,01,02,03,04,05,06,00,0", "1986,24,01,02,drei,04,05,06,00,0"});
+    starte();
+    klicke("Option2");
+    EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 0);
+    EXPECT_EQ(status(), samstag);
+    oeffne("frmSTAT1");
+    EXPECT_EQ(lies("Text1"), "");
+    schliesse();
+}
+
+TEST_F(Auswahlmenue, EineFehlendeDateiHaeltDasProgrammInDerBoxBisSieDaIst)
+{
+    QFile::remove(ordner.filePath("SALOTTO.DAT"));
+    int zuege = 0;
+    buehne.pumpe.beiZug = [this, &zuege] {
+        if (++zuege == 3)
+            schreibe("SALOTTO.DAT", {"1955,41,03,12,13,16,23,41,00,0"});
+    };
+    starte();
+    const QStringList gezeigt = boxen();
+    ASSERT_EQ(gezeigt.size(), 3);
+    EXPECT_EQ(gezeigt[0], "info|Tombrix|ERROR 53: Die Ziehungsdatei SALOTTO.DAT wurde nicht gefunden. Die Datei "
+                          "SALOTTO.DAT muß sich im gleichen Verzeichnis wie das Programm TOMBRIX.EXE befinden.");
+    EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 1);
+    EXPECT_EQ(status(), "*** Letzte eingetragene Ziehung in Gewinnzahl-Datei (SALOTTO.DAT; Samstagslotto) ->  1955/41 "
+                        "vom So, 09.10.1955 ***");
+}
+
+TEST_F(Auswahlmenue, SchliessenEntlaedtAlleBildschirme)
+{
+    registriere("frmExcel");
+    starte();
+    klicke("Command10");
+    klicke("Befehl13");
+    EXPECT_TRUE(buehne.bildschirme.geladene().empty());
+}
+
+} // namespace
