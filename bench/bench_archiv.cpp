@@ -1,4 +1,4 @@
-#include "archive/logic/ProgrammVerzeichnis.h"
+#include "archive/logic/Dateiinhalt.h"
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/Ziehungskalender.h"
 
@@ -119,7 +119,7 @@ void referenzNurBytes(benchmark::State& state)
         return;
     for (auto _ : state)
         for (const char* name : kDateien)
-            benchmark::DoNotOptimize(leseDatei(daten(), name, 1U << 22U).bytes.data());
+            benchmark::DoNotOptimize(leseDateiinhalt(std::filesystem::path(daten()) / name, 1U << 22U).bytes.data());
 }
 BENCHMARK(referenzNurBytes)->Unit(benchmark::kMicrosecond);
 

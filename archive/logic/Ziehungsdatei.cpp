@@ -1,8 +1,9 @@
 #include "archive/logic/Ziehungsdatei.h"
 
-#include "archive/logic/ProgrammVerzeichnis.h"
+#include "archive/logic/Dateiinhalt.h"
 #include "archive/logic/Ziehungskalender.h"
 #include "archive/logic/Ziehungsleser.h"
+#include "shell/logic/Dateien.h"
 #include "shell/logic/Format.h"
 
 #include <algorithm>
@@ -21,6 +22,11 @@ constexpr std::size_t kMaxSaetze = kMaxZiehungenJeDatei;
 constexpr std::size_t kMaxDateigroesse = 128 * kMaxSaetze;
 
 constexpr std::size_t kKuerzesterSatz = std::string_view("1,1,1,1,1,1,1,1,1,1\n").size();
+
+Dateiinhalt leseZiehungsdatei(const std::string& verzeichnis, std::string_view name)
+{
+    return leseDateiinhalt(findeDatei(verzeichnis, name), kMaxDateigroesse);
+}
 
 std::size_t letzteNummer(const ZiehungsArchiv& archiv)
 {
@@ -138,6 +144,11 @@ std::string feldText(const ZiehungsArchiv& archiv, std::size_t anzahl, std::size
 
 } // namespace
 
+std::string programmVerzeichnis(std::string path)
+{
+    return mitTrenner(path.empty() ? "." : std::move(path));
+}
+
 void LadeZiehungsdatei(ZiehungsArchiv& archiv, const MeldeFehlendeDatei& melde)
 {
     const std::int16_t spielart = archiv.Spielart;
@@ -147,11 +158,11 @@ void LadeZiehungsdatei(ZiehungsArchiv& archiv, const MeldeFehlendeDatei& melde)
     if (name.empty())
         return;
 
-    Dateiinhalt inhalt = leseDatei(archiv.ProgrammVerzeichnis, name, kMaxDateigroesse);
+    Dateiinhalt inhalt = leseZiehungsdatei(archiv.ProgrammVerzeichnis, name);
     while (inhalt.stand == Dateistand::Fehlt) {
         if (!melde || !melde(fehltText(name)))
             return;
-        inhalt = leseDatei(archiv.ProgrammVerzeichnis, name, kMaxDateigroesse);
+        inhalt = leseZiehungsdatei(archiv.ProgrammVerzeichnis, name);
     }
     if (inhalt.stand != Dateistand::Gelesen)
         return;
@@ -177,7 +188,7 @@ std::string LadeAlleZiehungen(ZiehungsArchiv& archiv, int maske, const MeldeFehl
         std::size_t anzahl = 0;
         if ((maske & teil.bit) != 0) {
             const std::string_view name = ziehungsdateiName(teil.spielart);
-            const Dateiinhalt inhalt = leseDatei(verzeichnis, name, kMaxDateigroesse);
+            const Dateiinhalt inhalt = leseZiehungsdatei(verzeichnis, name);
             if (inhalt.stand == Dateistand::Fehlt) {
                 if (melde)
                     melde("Die Datei " + verzeichnis + std::string(name) + " wurde nicht gefunden!");

@@ -8,6 +8,9 @@
 /// Shows the box that tells of a missing file. False: the program is ending, give up.
 using MeldeFehlendeDatei = std::function<bool(const std::string& text)>;
 
+/// `path` with the platform's separator at its end. The empty path is the current directory.
+std::string programmVerzeichnis(std::string path);
+
 /// Fills the archive from the file in `ProgrammVerzeichnis` that `Spielart` names, and rebuilds `Datum`.
 ///
 /// A missing file is told again and again until it is there or `melde` gives up; an empty `melde` gives up at once.

@@ -1,6 +1,6 @@
 #include "archive/logic/Ziehungsdatei.h"
-#include "archive/tests/Testordner.h"
 #include "archive/tests/Testsaetze.h"
+#include "shell/tests/Pruefordner.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -15,7 +15,7 @@ constexpr int kAlle = 7;
 /// A folder for the Ziehungsdateien, an archive on it, and the texts of the boxes.
 class LadeAlleZiehungenTest : public testing::Test {
 protected:
-    LadeAlleZiehungenTest() { archiv.ProgrammVerzeichnis = ordner.text() + "/"; }
+    LadeAlleZiehungenTest() { archiv.ProgrammVerzeichnis = ordner.pfad().string() + "/"; }
 
     std::string lade(int maske)
     {
@@ -27,9 +27,9 @@ protected:
 
     void schreibeAlle(int samstag, int mittwoch, int mittwochB) const
     {
-        ordner.schreibe("SALOTTO.DAT", testsaetze(samstag, 1955));
-        ordner.schreibe("MALOTTO.DAT", testsaetze(mittwoch, 1986));
-        ordner.schreibe("MBLOTTO.DAT", testsaetze(mittwochB, 1996));
+        ordner.lege("SALOTTO.DAT", testsaetze(samstag, 1955));
+        ordner.lege("MALOTTO.DAT", testsaetze(mittwoch, 1986));
+        ordner.lege("MBLOTTO.DAT", testsaetze(mittwochB, 1996));
     }
 
     /// What column `s` holds for row `nr` of a file: 11 below `beginn`, the file's digit from there on.
@@ -39,7 +39,7 @@ protected:
             ASSERT_EQ(archiv.s[vorher + nr], nr < beginn ? 11 : static_cast<int>(nr % 10)) << nr;
     }
 
-    Testordner ordner;
+    Pruefordner ordner;
     ZiehungsArchiv archiv;
     std::vector<std::string> boxen;
 };
@@ -171,9 +171,9 @@ TEST_F(LadeAlleZiehungenTest, SuperzahlGrenzeGenauAmDateiende)
 
 TEST_F(LadeAlleZiehungenTest, FehlendeDateiWirdEinmalGemeldetUndBrichtAb)
 {
-    ordner.schreibe("SALOTTO.DAT", testsaetze(3));
+    ordner.lege("SALOTTO.DAT", testsaetze(3));
     EXPECT_EQ(lade(kAlle), "False");
-    EXPECT_EQ(boxen, std::vector{"Die Datei " + ordner.text() + "/MALOTTO.DAT wurde nicht gefunden!"});
+    EXPECT_EQ(boxen, std::vector{"Die Datei " + ordner.pfad().string() + "/MALOTTO.DAT wurde nicht gefunden!"});
     EXPECT_EQ(archiv.jjjj.size(), 4U);
     EXPECT_EQ(archiv.AnzahlZiehungen, 3);
     EXPECT_EQ(archiv.DatumAlle.size(), 4U);
@@ -181,7 +181,7 @@ TEST_F(LadeAlleZiehungenTest, FehlendeDateiWirdEinmalGemeldetUndBrichtAb)
 
 TEST_F(LadeAlleZiehungenTest, FehltDieErsteDateiBleibenDieSpalten)
 {
-    ordner.schreibe("MALOTTO.DAT", testsaetze(3, 1986));
+    ordner.lege("MALOTTO.DAT", testsaetze(3, 1986));
     lade(kMittwoch);
     EXPECT_EQ(lade(kSamstag), "False");
     EXPECT_EQ(archiv.AnzahlZiehungen, 0);
@@ -190,7 +190,7 @@ TEST_F(LadeAlleZiehungenTest, FehltDieErsteDateiBleibenDieSpalten)
 
 TEST_F(LadeAlleZiehungenTest, NichtGewaehlteDateiDarfFehlen)
 {
-    ordner.schreibe("MBLOTTO.DAT", testsaetze(3));
+    ordner.lege("MBLOTTO.DAT", testsaetze(3));
     EXPECT_EQ(lade(kMittwochB), "-:-:3  [1955/03]");
     EXPECT_TRUE(boxen.empty());
 }
@@ -202,17 +202,17 @@ TEST_F(LadeAlleZiehungenTest, FehlendeDateiOhneMelder)
 
 TEST_F(LadeAlleZiehungenTest, FindetDateienInAndererSchreibweise)
 {
-    ordner.schreibe("Salotto.dat", testsaetze(3));
-    ordner.schreibe("malotto.dat", testsaetze(2, 1986));
+    ordner.lege("Salotto.dat", testsaetze(3));
+    ordner.lege("malotto.dat", testsaetze(2, 1986));
     EXPECT_EQ(lade(kSamstag | kMittwoch), "3  [1955/03]:2  [1986/02]:-");
 }
 
 TEST_F(LadeAlleZiehungenTest, ProgrammVerzeichnisBleibtWieEsWar)
 {
     schreibeAlle(3, 2, 1);
-    archiv.ProgrammVerzeichnis = ordner.text();
+    archiv.ProgrammVerzeichnis = ordner.pfad().string();
     EXPECT_EQ(lade(kSamstag), "3  [1955/03]:-:-");
-    EXPECT_EQ(archiv.ProgrammVerzeichnis, ordner.text());
+    EXPECT_EQ(archiv.ProgrammVerzeichnis, ordner.pfad().string());
 }
 
 TEST_F(LadeAlleZiehungenTest, SpielartBleibtWieSieWar)
@@ -226,7 +226,7 @@ TEST_F(LadeAlleZiehungenTest, SpielartBleibtWieSieWar)
 TEST_F(LadeAlleZiehungenTest, KaputteDateiEndetVorDemKaputtenSatz)
 {
     schreibeAlle(0, 2, 1);
-    ordner.schreibe("SALOTTO.DAT", testsaetze(3) + "1955,04,01,xx,03,04,05,06,00,1\r\n" + testsaetze(9));
+    ordner.lege("SALOTTO.DAT", testsaetze(3) + "1955,04,01,xx,03,04,05,06,00,1\r\n" + testsaetze(9));
     EXPECT_EQ(lade(kAlle), "3  [1955/03]:2  [1986/02]:1  [1996/01]");
     EXPECT_EQ(archiv.AnzahlZiehungen, 6);
     EXPECT_TRUE(spaltenGleichLang(archiv));
@@ -245,8 +245,8 @@ TEST_F(LadeAlleZiehungenTest, LeereDateiHatKeineZiehungen)
 TEST_F(LadeAlleZiehungenTest, VerzeichnisAnStelleEinerDateiHatKeineZiehungen)
 {
     schreibeAlle(3, 2, 1);
-    std::filesystem::remove(ordner.pfad() / "MALOTTO.DAT");
-    ordner.legeOrdnerAn("MALOTTO.DAT");
+    std::filesystem::remove(ordner / "MALOTTO.DAT");
+    std::filesystem::create_directory(ordner / "MALOTTO.DAT");
     EXPECT_EQ(lade(kAlle), "3  [1955/03]:-:1  [1996/01]");
     EXPECT_EQ(archiv.AnzahlZiehungen, 4);
     EXPECT_TRUE(boxen.empty());
@@ -266,7 +266,7 @@ TEST_F(LadeAlleZiehungenTest, FasstDreimal32767Ziehungen)
 {
     const std::string voll = testsaetze(32767, 1000);
     for (const char* name : {"SALOTTO.DAT", "MALOTTO.DAT", "MBLOTTO.DAT"})
-        ordner.schreibe(name, voll);
+        ordner.lege(name, voll);
     EXPECT_EQ(lade(kAlle), "32767  [1655/17]:32767  [1655/17]:32767  [1655/17]");
     EXPECT_EQ(archiv.AnzahlZiehungen, 3 * 32767);
     EXPECT_EQ(archiv.DatumAlle.size(), 3U * 32767U + 1U);
@@ -276,7 +276,7 @@ TEST_F(LadeAlleZiehungenTest, FasstDreimal32767Ziehungen)
 TEST_F(LadeAlleZiehungenTest, VonVierzigtausendSaetzenZaehlen32767)
 {
     schreibeAlle(1, 2, 1);
-    ordner.schreibe("SALOTTO.DAT", testsaetze(40000, 1000));
+    ordner.lege("SALOTTO.DAT", testsaetze(40000, 1000));
     EXPECT_EQ(lade(kSamstag | kMittwoch), "32767  [1655/17]:2  [1986/02]:-");
     EXPECT_TRUE(spaltenGleichLang(archiv));
 }

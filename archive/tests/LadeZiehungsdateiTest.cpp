@@ -1,6 +1,6 @@
 #include "archive/logic/Ziehungsdatei.h"
-#include "archive/tests/Testordner.h"
 #include "archive/tests/Testsaetze.h"
+#include "shell/tests/Pruefordner.h"
 
 #include <chrono>
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ class LadeZiehungsdateiTest : public testing::Test {
 protected:
     void lade(std::int16_t spielart = Samstagslotto)
     {
-        archiv.ProgrammVerzeichnis = ordner.text();
+        archiv.ProgrammVerzeichnis = ordner.pfad().string();
         archiv.Spielart = spielart;
         LadeZiehungsdatei(archiv, [this](const std::string& text) {
             boxen.push_back(text);
@@ -27,7 +27,7 @@ protected:
 
     void ladeInhalt(const std::string& inhalt, std::int16_t spielart = Samstagslotto)
     {
-        ordner.schreibe(std::string(ziehungsdateiName(spielart)), inhalt);
+        ordner.lege(ziehungsdateiName(spielart), inhalt);
         lade(spielart);
     }
 
@@ -43,13 +43,25 @@ protected:
         EXPECT_TRUE(boxen.empty());
     }
 
-    Testordner ordner;
+    Pruefordner ordner;
     ZiehungsArchiv archiv;
     std::vector<std::string> boxen;
     std::function<bool()> weiterNachBox = [] { return false; };
 };
 
 } // namespace
+
+TEST(ProgrammVerzeichnis, HatEinenTrennerAmEnde)
+{
+    EXPECT_EQ(programmVerzeichnis("/opt/tombrix"), "/opt/tombrix/");
+    EXPECT_EQ(programmVerzeichnis("/opt/tombrix/"), "/opt/tombrix/");
+    EXPECT_EQ(programmVerzeichnis("/"), "/");
+}
+
+TEST(ProgrammVerzeichnis, LeererPfadIstDasAktuelleVerzeichnisUndNichtDieWurzel)
+{
+    EXPECT_EQ(programmVerzeichnis(""), "./");
+}
 
 TEST_F(LadeZiehungsdateiTest, FuelltJedeSpalte)
 {
@@ -77,9 +89,9 @@ TEST_F(LadeZiehungsdateiTest, EinEinzigerSatz)
 
 TEST_F(LadeZiehungsdateiTest, JedeSpielartHatIhreDatei)
 {
-    ordner.schreibe("SALOTTO.DAT", testsaetze(3));
-    ordner.schreibe("MALOTTO.DAT", testsaetze(4));
-    ordner.schreibe("MBLOTTO.DAT", testsaetze(5));
+    ordner.lege("SALOTTO.DAT", testsaetze(3));
+    ordner.lege("MALOTTO.DAT", testsaetze(4));
+    ordner.lege("MBLOTTO.DAT", testsaetze(5));
     const std::vector<std::pair<std::int16_t, int>> erwartet{{0, 3}, {1, 3}, {2, 4}, {3, 5}};
     for (const auto& [spielart, anzahl] : erwartet) {
         lade(spielart);
@@ -127,14 +139,14 @@ TEST_F(LadeZiehungsdateiTest, ErsetztWasVorherGeladenWar)
 TEST_F(LadeZiehungsdateiTest, ErgaenztDenTrennerAmProgrammVerzeichnis)
 {
     ladeInhalt(testsaetze(1));
-    EXPECT_EQ(archiv.ProgrammVerzeichnis, ordner.text() + "/");
+    EXPECT_EQ(archiv.ProgrammVerzeichnis, ordner.pfad().string() + "/");
     lade();
     EXPECT_EQ(archiv.AnzahlZiehungen, 1);
 }
 
 TEST_F(LadeZiehungsdateiTest, FindetDieDateiInAndererSchreibweise)
 {
-    ordner.schreibe("Salotto.dat", testsaetze(5));
+    ordner.lege("Salotto.dat", testsaetze(5));
     lade();
     EXPECT_EQ(archiv.AnzahlZiehungen, 5);
     EXPECT_TRUE(boxen.empty());
@@ -144,7 +156,7 @@ TEST_F(LadeZiehungsdateiTest, FehlendeDateiWirdGemeldetBisSieDaIst)
 {
     weiterNachBox = [this] {
         if (boxen.size() == 3)
-            ordner.schreibe("SALOTTO.DAT", testsaetze(2));
+            ordner.lege("SALOTTO.DAT", testsaetze(2));
         return true;
     };
     lade();
@@ -174,7 +186,7 @@ TEST_F(LadeZiehungsdateiTest, MeldungNenntDieDateiDesSpiels)
 
 TEST_F(LadeZiehungsdateiTest, OhneMelderWirdAufgegeben)
 {
-    archiv.ProgrammVerzeichnis = ordner.text();
+    archiv.ProgrammVerzeichnis = ordner.pfad().string();
     LadeZiehungsdatei(archiv, {});
     EXPECT_EQ(archiv.AnzahlZiehungen, 0);
 }
@@ -233,8 +245,8 @@ TEST_F(LadeZiehungsdateiTest, LeereDateiIstEinLeeresArchiv)
 TEST_F(LadeZiehungsdateiTest, VerzeichnisAnStelleDerDateiEndetStumm)
 {
     ladeInhalt(testsaetze(5));
-    std::filesystem::remove(ordner.pfad() / "SALOTTO.DAT");
-    ordner.legeOrdnerAn("SALOTTO.DAT");
+    std::filesystem::remove(ordner / "SALOTTO.DAT");
+    std::filesystem::create_directory(ordner / "SALOTTO.DAT");
     archiv.Datum = {"", "vorher"};
     lade();
     EXPECT_EQ(archiv.AnzahlZiehungen, 0);
@@ -290,16 +302,16 @@ TEST_F(LadeZiehungsdateiTest, NimmtDieWerteOhneSieZuBeurteilen)
 namespace {
 
 /// Makes the file as long as `groesse`; what is added are zero bytes that take no room.
-void dehne(const Testordner& ordner, std::uintmax_t groesse)
+void dehne(const Pruefordner& ordner, std::uintmax_t groesse)
 {
-    std::filesystem::resize_file(ordner.pfad() / "SALOTTO.DAT", groesse);
+    std::filesystem::resize_file(ordner / "SALOTTO.DAT", groesse);
 }
 
 } // namespace
 
 TEST_F(LadeZiehungsdateiTest, HundertMegabyteEndenStummUndSchnell)
 {
-    ordner.schreibe("SALOTTO.DAT", testsaetze(100));
+    ordner.lege("SALOTTO.DAT", testsaetze(100));
     dehne(ordner, 100'000'000);
     const auto beginn = std::chrono::steady_clock::now();
     lade();
@@ -314,7 +326,7 @@ TEST_F(LadeZiehungsdateiTest, HundertMegabyteSaetzeEndenStumm)
 {
     {
         const std::string block = testsaetze(32767, 1000);
-        std::ofstream datei(ordner.pfad() / "SALOTTO.DAT", std::ios::binary);
+        std::ofstream datei(ordner / "SALOTTO.DAT", std::ios::binary);
         for (int i = 0; i < 96; ++i)
             datei << block;
     }
@@ -328,7 +340,7 @@ TEST_F(LadeZiehungsdateiTest, HundertMegabyteLeerzeichenHinterEinemSatzEndenStum
 {
     {
         const std::string block(1'000'000, ' ');
-        std::ofstream datei(ordner.pfad() / "SALOTTO.DAT", std::ios::binary);
+        std::ofstream datei(ordner / "SALOTTO.DAT", std::ios::binary);
         datei << testsaetze(1);
         for (int i = 0; i < 100; ++i)
             datei << block;

@@ -1,9 +1,9 @@
 #include "listcontrol/logic/ListBoxSort.h"
 
-#include "listcontrol/logic/Textsortierung.h"
 #include "shell/logic/clsTimer.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 void ListBoxSort(std::vector<std::string>& feld, std::size_t erster, std::size_t letzter, bool absteigend)
@@ -13,9 +13,10 @@ void ListBoxSort(std::vector<std::string>& feld, std::size_t erster, std::size_t
     }
     const auto anfang = feld.begin() + static_cast<std::ptrdiff_t>(erster);
     const auto ende = feld.begin() + static_cast<std::ptrdiff_t>(std::min(letzter, feld.size() - 1)) + 1;
-    sortiereTexte({anfang, ende});
     if (absteigend) {
-        std::reverse(anfang, ende); // equal rows cannot be told apart
+        std::sort(anfang, ende, std::greater<>());
+    } else {
+        std::sort(anfang, ende);
     }
 }
 

@@ -1,7 +1,5 @@
 #include "listcontrol/logic/ListenModell.h"
 
-#include "listcontrol/logic/Textsortierung.h"
-
 #include <algorithm>
 
 void ListenModell::melde(Aenderung aenderung) const
@@ -187,7 +185,7 @@ void ListenModell::ordneEin() const
         return;
     }
     const auto neue = zeilen_.begin() + static_cast<std::ptrdiff_t>(geordnete_);
-    sortiereTexte({neue, zeilen_.end()}); // equal rows cannot be told apart
+    std::sort(neue, zeilen_.end()); // equal rows cannot be told apart
     rueckeAuswahl();
     std::inplace_merge(zeilen_.begin(), neue, zeilen_.end());
     geordnete_ = zeilen_.size();

@@ -72,9 +72,15 @@ std::optional<QString> FensterBoxen::datei(const DateiFrage& frage)
     return dialog.selectedFiles().constFirst();
 }
 
-void SystemZwischenablage::setze(const QString& text) { QGuiApplication::clipboard()->setText(text); }
+void SystemZwischenablage::setze(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+}
 
-QString SystemZwischenablage::text() const { return QGuiApplication::clipboard()->text(); }
+QString SystemZwischenablage::text() const
+{
+    return QGuiApplication::clipboard()->text();
+}
 
 bool StandardDrucker::drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male)
 {

@@ -17,8 +17,7 @@ Menuegruppe zahlen()
               "Ausbleibestatistik, wieviele Wochen wurden die Gewinnzahlen nicht gezogen ?"},
              {"Befehl9", "Häufigkeit pro &Jahr u. SW", "frmSJAHR",
               "Berechnet die Häufigkeit der Gewinnzahlen pro Jahr und pro Spielwoche."},
-             {"Befehl22", "&Häufigkeit pro SW", "frmSWH",
-              "Häufigkeit der Gewinnzahlen für ausgewählte Spielwochen."},
+             {"Befehl22", "&Häufigkeit pro SW", "frmSWH", "Häufigkeit der Gewinnzahlen für ausgewählte Spielwochen."},
              {"Befehl5", "Septiden Zehnergruppen", "frmGERADE",
               "Anzahl der Gewinnzahlen in den Septiden und den Zehnergruppen. Anzahl gerader und ungerader "
               "Gewinnzahlen."},
@@ -64,8 +63,7 @@ Menuegruppe tipps()
     return {"Tipps",
             {{"Befehl10", "Lotto Zeit&reise", "frmLottoneu",
               "Durchsucht die Historischen-Gewinnzahlen nach bestimmten Zahlenkombinationen."},
-             {"Befehl11", "&Vergleich", "frmSSA",
-              "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit "},
+             {"Befehl11", "&Vergleich", "frmSSA", "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit "},
              {"Befehl18", "Tipps auswerten/&speich.", "frmTA",
               "Tipschein-Auswertung. Vergleicht Tip's mit der letzten (aktuellen) Ziehung. Speichert Tip's."},
              {"Befehl1", "&Tippreihen erstellen", "",
@@ -154,24 +152,23 @@ Menuegruppe superzahlZusammen()
 
 Menuegruppe filterZusammen()
 {
-    return {"Filter",
-            {{"cmdGU", "Gerade : Ungerade", "frmZusammenGU",
-              "Sucht Ziehungen mit einem bestimmten Verhältnis gerade zu ungeraden Gewinnzahlen.",
-              Oeffnung::ErstVerbergen},
-             {"Command4", "Tief : Hoch", "frmZusammenHochTief",
-              "Verhältnis der Gewinnzahlen Tief (1-24) : Hoch (25-49)"},
-             {"Command3", "Randzahlen", "frmZusammenRand",
-              "Sucht Ziehungen, bei denen sich alle Gewinnzahlen am Rand des Tippscheinfeldes befinden."},
-             {"cmdPrim", "Primzahlen pro Ziehung", "frmZusammenPrim",
-              "Wieviele Primzahlen enthalten die einzelnen Ziehungen?"},
-             {"cmdZusammenZeileSpalte", "Zeilen/Spalten Filter", "frmZusammenZeileSpalte", kZeilenSpaltenHinweis},
-             {"cmdGroupZusammen", "Zahlennachbarn", "frmZusammenGROUP",
-              "Sucht nach Zahlennachbarn (z.B. 17,18,19,20) für Sa + Mi + Mi(B) zusammen."},
-             {"cmdFolgeziehung", "Wied. in Folgeziehung", "frmZusammenWiederholungenInFolgeziehung",
-              "Suche nach Wiederholungen von Gewinnzahlen in der Folgeziehung."},
-             {"cmd49", "Zahlen in 49-er Linie", "frm49",
-              "Die gezogenen Gewinnzahlen der letzten Wochen übersichtlich in einer 49-spaltigen Tabelle dargestellt. "
-              "Die Samstags- und Mittwochsziehungen zusammen ausgewertet."}}};
+    return {
+        "Filter",
+        {{"cmdGU", "Gerade : Ungerade", "frmZusammenGU",
+          "Sucht Ziehungen mit einem bestimmten Verhältnis gerade zu ungeraden Gewinnzahlen.", Oeffnung::ErstVerbergen},
+         {"Command4", "Tief : Hoch", "frmZusammenHochTief", "Verhältnis der Gewinnzahlen Tief (1-24) : Hoch (25-49)"},
+         {"Command3", "Randzahlen", "frmZusammenRand",
+          "Sucht Ziehungen, bei denen sich alle Gewinnzahlen am Rand des Tippscheinfeldes befinden."},
+         {"cmdPrim", "Primzahlen pro Ziehung", "frmZusammenPrim",
+          "Wieviele Primzahlen enthalten die einzelnen Ziehungen?"},
+         {"cmdZusammenZeileSpalte", "Zeilen/Spalten Filter", "frmZusammenZeileSpalte", kZeilenSpaltenHinweis},
+         {"cmdGroupZusammen", "Zahlennachbarn", "frmZusammenGROUP",
+          "Sucht nach Zahlennachbarn (z.B. 17,18,19,20) für Sa + Mi + Mi(B) zusammen."},
+         {"cmdFolgeziehung", "Wied. in Folgeziehung", "frmZusammenWiederholungenInFolgeziehung",
+          "Suche nach Wiederholungen von Gewinnzahlen in der Folgeziehung."},
+         {"cmd49", "Zahlen in 49-er Linie", "frm49",
+          "Die gezogenen Gewinnzahlen der letzten Wochen übersichtlich in einer 49-spaltigen Tabelle dargestellt. "
+          "Die Samstags- und Mittwochsziehungen zusammen ausgewertet."}}};
 }
 
 Menuegruppe kombinationenZusammen()

@@ -6,16 +6,16 @@
 
 /// How the selection menu opens a tool.
 enum class Oeffnung {
-    Gewoehnlich,    ///< the tool is shown, then the menu hides
-    ErstVerbergen,  ///< the menu hides first: the tool takes long to load
-    NurDruecken,    ///< the tool is loaded and its start button pressed; the menu stays
+    Gewoehnlich,   ///< the tool is shown, then the menu hides
+    ErstVerbergen, ///< the menu hides first: the tool takes long to load
+    NurDruecken,   ///< the tool is loaded and its start button pressed; the menu stays
 };
 
 /// One tool button of the selection menu.
 struct Menueknopf {
     const char* name;
     const char* text;
-    const char* ziel;                               ///< registered name of the screen
+    const char* ziel; ///< registered name of the screen
     const char* hinweis;
     Oeffnung oeffnung = Oeffnung::Gewoehnlich;
 };

@@ -11,8 +11,9 @@
 namespace {
 
 constexpr auto kLaengsterName = "Mittwochslotto 6 aus 49 (B)";
-constexpr auto kRolloText = "Mit diesen Programmfunktionen können die Ziehungen des Samstags- und Mittwochslotto zusammen "
-                            "ausgewertet werden.";
+constexpr auto kRolloText =
+    "Mit diesen Programmfunktionen können die Ziehungen des Samstags- und Mittwochslotto zusammen "
+    "ausgewertet werden.";
 
 /// A strip of slats, as the blind shows them where it is rolled up.
 QPixmap lamellen(int breite)

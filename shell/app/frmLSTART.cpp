@@ -35,13 +35,12 @@ struct Spieltexte {
 
 const Spieltexte& spieltexte(std::int16_t spielart)
 {
-    static const std::array<Spieltexte, 3> texte{
-        {{" >>>>>>>>>>>     SALOTTO.DAT wird geladen      <<<<<<<<<<<", "Samstagslotto 6 aus 49",
-          "(SALOTTO.DAT; Samstagslotto)"},
-         {" >>>>>>>>>>>     MALOTTO.DAT wird geladen      <<<<<<<<<<<", "Mittwochslotto 6 aus 49 ",
-          "(MALOTTO.DAT; Mittwochslotto A)"},
-         {" >>>>>>>>>>>     MBLOTTO.DAT wird geladen      <<<<<<<<<<<", "Mittwochslotto 6 aus 49 (B)",
-          "(MBLOTTO.DAT; Mittwochslotto B)"}}};
+    static const std::array<Spieltexte, 3> texte{{{" >>>>>>>>>>>     SALOTTO.DAT wird geladen      <<<<<<<<<<<",
+                                                   "Samstagslotto 6 aus 49", "(SALOTTO.DAT; Samstagslotto)"},
+                                                  {" >>>>>>>>>>>     MALOTTO.DAT wird geladen      <<<<<<<<<<<",
+                                                   "Mittwochslotto 6 aus 49 ", "(MALOTTO.DAT; Mittwochslotto A)"},
+                                                  {" >>>>>>>>>>>     MBLOTTO.DAT wird geladen      <<<<<<<<<<<",
+                                                   "Mittwochslotto 6 aus 49 (B)", "(MBLOTTO.DAT; Mittwochslotto B)"}}};
     return texte.at(static_cast<std::size_t>(spielart - 1));
 }
 
@@ -54,9 +53,10 @@ frmLSTART::frmLSTART(Umgebung& umgebung) : Bildschirm(umgebung, "frmLSTART", kTi
     Option2 = option("Option2", "Mittwochslotto ");
     Option3 = option("Option3", "Mittwochslotto (B)",
                      hinweis("Statistik für Mittwochslotto-Ziehung B (wurde bis 29.11.2000 ausgespielt !)."));
-    Option4 = option("Option4", "Sa + Mi zusammen",
-                     hinweis("Bei Auswahl dieser Option können die Samstags- und Mittwochsziehungen für die wichtigsten "
-                             "Statistiken zusammen auswertet werden."));
+    Option4 =
+        option("Option4", "Sa + Mi zusammen",
+               hinweis("Bei Auswahl dieser Option können die Samstags- und Mittwochsziehungen für die wichtigsten "
+                       "Statistiken zusammen auswertet werden."));
     mnuOption = bauePopup();
     auto* ordentlich = new QWidget(this);
     ordentlich->setLayout(wand(menuewand(), false));
@@ -102,7 +102,10 @@ frmLSTART::frmLSTART(Umgebung& umgebung) : Bildschirm(umgebung, "frmLSTART", kTi
     waehleSpielart(Samstagslotto);
 }
 
-frmLSTART::~frmLSTART() { umgebung().menue = nullptr; }
+frmLSTART::~frmLSTART()
+{
+    umgebung().menue = nullptr;
+}
 
 QWidget* frmLSTART::baueSpielnamen()
 {
@@ -236,7 +239,10 @@ QString frmLSTART::statuszeile() const
              QString::fromStdString(archiv.Datum[letzte]));
 }
 
-void frmLSTART::zeigeStatus(const QString& text) { Bezeichnung2->setText(text); }
+void frmLSTART::zeigeStatus(const QString& text)
+{
+    Bezeichnung2->setText(text);
+}
 
 void frmLSTART::mausUeber(QWidget* feld)
 {

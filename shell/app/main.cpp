@@ -9,8 +9,7 @@ int main(int anzahl, char** argumente)
     Programm programm(anzahl, argumente);
 
     ZiehungsArchiv archiv;
-    archiv.ProgrammVerzeichnis =
-        waehleProgrammVerzeichnis(QCoreApplication::applicationDirPath()).toStdString();
+    archiv.ProgrammVerzeichnis = waehleProgrammVerzeichnis(QCoreApplication::applicationDirPath()).toStdString();
     FensterBoxen boxen;
     SystemZwischenablage zwischenablage;
     StandardDrucker drucker;

@@ -78,7 +78,8 @@ Auswertebereich bereichDesArchivs(const ZiehungsArchiv& archiv)
 } // namespace
 
 AuswertebereichView::AuswertebereichView(Bildschirm& bildschirm, const AuswertebereichNamen& namen)
-    : QWidget(&bildschirm), bildschirm_(bildschirm)
+    : QWidget(&bildschirm),
+      bildschirm_(bildschirm)
 {
     jahre_ = baueJahre(namen);
     ziehung_ = baueZiehung(namen);
@@ -177,8 +178,8 @@ std::optional<Ziehungsbereich> AuswertebereichView::pruefe()
     const Bereichspruefung pruefung = modell_.pruefe();
     zeige();
     if (pruefung.meldung)
-        bildschirm_.umgebung().boxen.info(
-            pruefung.meldung->titel.empty() ? QString(kProgrammtitel) : qt(pruefung.meldung->titel),
-            qt(pruefung.meldung->text));
+        bildschirm_.umgebung().boxen.info(pruefung.meldung->titel.empty() ? QString(kProgrammtitel)
+                                                                          : qt(pruefung.meldung->titel),
+                                          qt(pruefung.meldung->text));
     return pruefung.bereich;
 }

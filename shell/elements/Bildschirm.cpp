@@ -6,6 +6,8 @@
 #include "shell/elements/Liste.h"
 #include "shell/elements/Rahmen.h"
 #include "shell/elements/Stil.h"
+#include "shell/elements/Utf8.h"
+#include "shell/logic/ClipReport.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -31,10 +33,15 @@ QString hinweisVon(const QWidget* feld, const QWidget* bis)
 }
 } // namespace
 
-void setzeHinweis(QWidget* feld, const QString& text) { feld->setProperty(kHinweis, text); }
+void setzeHinweis(QWidget* feld, const QString& text)
+{
+    feld->setProperty(kHinweis, text);
+}
 
 Bildschirm::Bildschirm(Umgebung& umgebung, const QString& name, const QString& titel)
-    : umgebung_(umgebung), grundtitel_(titel), stand_(titel)
+    : umgebung_(umgebung),
+      grundtitel_(titel),
+      stand_(titel)
 {
     setObjectName(name);
     setWindowTitle(titel);
@@ -109,7 +116,10 @@ QLineEdit* Bildschirm::textfeld(const QString& name, const QString& text)
     return benannt(new QLineEdit(text, this), name);
 }
 
-QComboBox* Bildschirm::kombi(const QString& name) { return benannt(new QComboBox(this), name); }
+QComboBox* Bildschirm::kombi(const QString& name)
+{
+    return benannt(new QComboBox(this), name);
+}
 
 QCheckBox* Bildschirm::kontroll(const QString& name, const QString& text)
 {
@@ -131,6 +141,18 @@ QGroupBox* Bildschirm::rahmen(const QString& name, const QString& titel, QLayout
 Liste* Bildschirm::liste(const QString& name, ListenModell::Eigenschaften eigenschaften)
 {
     return benannt(new Liste(this, eigenschaften), name);
+}
+
+QPushButton* Bildschirm::clipBefehl(const QString& name, const std::function<std::string()>& bericht)
+{
+    QPushButton* knopf = befehl(name, qt(kClipBefehl));
+    knopf->setToolTip(qt(kClipHinweis));
+    bei(knopf, [this, bericht] {
+        const std::string text = bericht();
+        if (!text.empty())
+            umgebung_.zwischenablage.setze(qt(text));
+    });
+    return knopf;
 }
 
 void Bildschirm::bei(QAbstractButton* knopf, const std::function<void()>& tue)

@@ -23,13 +23,19 @@ class QRadioButton;
 struct Hinweis {
     QString text;
 };
-inline Hinweis hinweis(const QString& text) { return {text}; }
+inline Hinweis hinweis(const QString& text)
+{
+    return {text};
+}
 
 /// First index of a control array: `feld(labels, "Bezeichnung1", ab(1))` names Bezeichnung1(1), Bezeichnung1(2) ...
 struct Ab {
     int erster = 0;
 };
-inline Ab ab(int erster) { return {erster}; }
+inline Ab ab(int erster)
+{
+    return {erster};
+}
 
 /// Sets or replaces the hint of a control. A hint holds for the children of a control too.
 void setzeHinweis(QWidget* feld, const QString& text);
@@ -88,6 +94,9 @@ protected:
     QRadioButton* option(const QString& name, const QString& text, const Hinweis& hinweis = {});
     QGroupBox* rahmen(const QString& name, const QString& titel, QLayout* inhalt);
     Liste* liste(const QString& name, ListenModell::Eigenschaften eigenschaften = {});
+
+    /// The button that replaces the clipboard by a report; an empty report changes nothing.
+    QPushButton* clipBefehl(const QString& name, const std::function<std::string()>& bericht);
 
     /// Makes the labels of a control array.
     template <std::size_t N> void feld(std::array<QLabel*, N>& felder, const QString& name, Ab ab = {});

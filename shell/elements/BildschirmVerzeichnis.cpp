@@ -7,11 +7,14 @@
 #include <algorithm>
 
 namespace {
+/// Every screen fits on a desktop of this size; a smaller one does not make it smaller.
+constexpr QSize kKleinsterSchirm{1280, 800};
+
 void zentriere(QWidget& fenster)
 {
     const QRect schirm = fenster.screen()->availableGeometry();
     fenster.adjustSize();
-    fenster.resize(fenster.size().boundedTo(schirm.size()));
+    fenster.resize(fenster.sizeHint().boundedTo(schirm.size().expandedTo(kKleinsterSchirm)));
     fenster.move(schirm.center() - QPoint(fenster.width() / 2, fenster.height() / 2));
 }
 } // namespace
@@ -21,7 +24,10 @@ BildschirmVerzeichnis::BildschirmVerzeichnis(Umgebung& umgebung) : umgebung_(umg
     umgebung_.bildschirme = this;
 }
 
-BildschirmVerzeichnis::~BildschirmVerzeichnis() { umgebung_.bildschirme = nullptr; }
+BildschirmVerzeichnis::~BildschirmVerzeichnis()
+{
+    umgebung_.bildschirme = nullptr;
+}
 
 void BildschirmVerzeichnis::registriere(const QString& name, Erzeuger erzeuger)
 {
@@ -49,7 +55,10 @@ BildschirmVerzeichnis::Eintrag* BildschirmVerzeichnis::finde(const QString& name
     return const_cast<Eintrag*>(std::as_const(*this).finde(name));
 }
 
-bool BildschirmVerzeichnis::kennt(const QString& name) const { return finde(name) != nullptr; }
+bool BildschirmVerzeichnis::kennt(const QString& name) const
+{
+    return finde(name) != nullptr;
+}
 
 Bildschirm& BildschirmVerzeichnis::lade(const QString& name)
 {

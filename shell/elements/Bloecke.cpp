@@ -45,9 +45,15 @@ QLayout* stapel(QBoxLayout* layout, const Bloecke& bloecke)
 
 } // namespace
 
-QLayout* spalte(const Bloecke& bloecke) { return stapel(new QVBoxLayout, bloecke); }
+QLayout* spalte(const Bloecke& bloecke)
+{
+    return stapel(new QVBoxLayout, bloecke);
+}
 
-QLayout* zeile(const Bloecke& bloecke) { return stapel(new QHBoxLayout, bloecke); }
+QLayout* zeile(const Bloecke& bloecke)
+{
+    return stapel(new QHBoxLayout, bloecke);
+}
 
 QLayout* raster(int spalten, const Bloecke& bloecke)
 {

@@ -3,7 +3,6 @@
 #include <QLayout>
 #include <QWidget>
 
-#include <array>
 #include <initializer_list>
 #include <variant>
 #include <vector>
@@ -35,20 +34,13 @@ QLayout* zeile(const Bloecke& bloecke);
 QLayout* raster(int spalten, const Bloecke& bloecke);
 /// Two columns: a caption and its field, a row each.
 QLayout* formular(const std::vector<std::pair<Block, Block>>& zeilen);
-inline Block luecke() { return Luecke{}; }
+inline Block luecke()
+{
+    return Luecke{};
+}
 Block dehnbar(Block block, int faktor = 1);
 /// The block with the small distance between its parts, for a label and its field.
 QLayout* eng(QLayout* layout);
-
-/// A grid whose cells stack the elements of several control arrays: element i of each stands in cell i.
-template <std::size_t N, class Erstes, class... Weitere>
-QLayout* raster(int spalten, const std::array<Erstes, N>& erstes, const std::array<Weitere, N>&... weitere)
-{
-    Bloecke zellen;
-    for (std::size_t i = 0; i < N; ++i)
-        zellen.push_back(eng(spalte({Block(erstes[i]), Block(weitere[i])...})));
-    return raster(spalten, zellen);
-}
 
 /// The control keeps its place while it is hidden.
 void behaltePlatz(QWidget* feld);

@@ -3,8 +3,8 @@
 #include "shell/elements/Umgebung.h"
 
 enum class DateiModus {
-    Oeffnen = 0,                 ///< the file must exist
-    SpeichernMitFrage = 1,       ///< asks before an existing file is overwritten
+    Oeffnen = 0,           ///< the file must exist
+    SpeichernMitFrage = 1, ///< asks before an existing file is overwritten
     SpeichernOhneFrage = 2,
 };
 

@@ -7,12 +7,11 @@ class QWidget;
 
 /// The colours that mean something in the program. Everything else is the palette's.
 namespace Farben {
-inline const QColor Markiert{0, 255, 255};       ///< cyan: a marked cell, a lowest count
-inline const QColor MarkiertText{255, 0, 0};     ///< red on cyan
-inline const QColor Hoechstwert{255, 0, 0};      ///< red: a highest count
-inline const QColor HoechstwertText{255, 255, 255};
+inline const QColor Markiert{0, 255, 255};   ///< cyan: a marked cell, a lowest count
+inline const QColor MarkiertText{255, 0, 0}; ///< red on cyan
+inline const QColor Hoechstwert{255, 0, 0};  ///< red: a highest count
 inline const QColor Text{0, 0, 0};
-inline const QColor Fuss{0, 22, 0};              ///< the dark bar at the foot of every screen
+inline const QColor Fuss{0, 22, 0}; ///< the dark bar at the foot of every screen
 inline const QColor FussText{198, 232, 198};
 
 /// The one light palette of the program, so that told colours are readable on dark desktops too.

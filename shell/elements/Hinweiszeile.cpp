@@ -4,7 +4,10 @@
 
 #include <QEvent>
 
-Hinweiszeile::Hinweiszeile(QObject* programm) : QObject(programm) { programm->installEventFilter(this); }
+Hinweiszeile::Hinweiszeile(QObject* programm) : QObject(programm)
+{
+    programm->installEventFilter(this);
+}
 
 bool Hinweiszeile::eventFilter(QObject* ziel, QEvent* ereignis)
 {

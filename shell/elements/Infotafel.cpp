@@ -32,7 +32,7 @@ Infotafel::Infotafel(QWidget* bildschirm, const QString& text) : QFrame(bildschi
 
 void Infotafel::zeige()
 {
-    resize(kBreite, layout()->heightForWidth(kBreite));
+    resize(kBreite, layout()->totalHeightForWidth(kBreite) + 2 * frameWidth());
     move((parentWidget()->width() - width()) / 2, (parentWidget()->height() - height()) / 2);
     show();
     raise();

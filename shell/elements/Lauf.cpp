@@ -19,7 +19,9 @@ WarteAnzeige::~WarteAnzeige()
 }
 
 Lauf::Lauf(Bildschirm& bildschirm, const QString& wartetext)
-    : bildschirm_(bildschirm), gilt_(!bildschirm.laeuft()), letzterZug_(std::chrono::steady_clock::now())
+    : bildschirm_(bildschirm),
+      gilt_(!bildschirm.laeuft()),
+      letzterZug_(std::chrono::steady_clock::now())
 {
     if (!gilt_)
         return;

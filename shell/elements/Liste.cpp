@@ -36,7 +36,10 @@ QSize Liste::minimumSizeHint() const
     return {breite + verticalScrollBar()->sizeHint().width() + rand, sichtbareZeilen_ * zeilenhoehe() + rand};
 }
 
-QString Liste::zeilentext(int zeile) const { return qt(modell_.List(static_cast<std::size_t>(zeile))); }
+QString Liste::zeilentext(int zeile) const
+{
+    return qt(modell_.List(static_cast<std::size_t>(zeile)));
+}
 
 void Liste::maleZeile(QPainter& maler, int zeile, const QRect& rechteck)
 {

@@ -41,6 +41,6 @@ void Rahmen::paintEvent(QPaintEvent*)
     maler.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRundung, kRundung);
     maler.setFont(titelschrift());
     maler.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Link));
-    maler.drawText(rect().adjusted(Stil::kAbstand, Stil::kAbstand - 2, -Stil::kAbstand, 0), Qt::AlignLeft | Qt::AlignTop,
-                   title());
+    maler.drawText(rect().adjusted(Stil::kAbstand, Stil::kAbstand - 2, -Stil::kAbstand, 0),
+                   Qt::AlignLeft | Qt::AlignTop, title());
 }

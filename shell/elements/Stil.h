@@ -7,9 +7,9 @@ class QWidget;
 
 /// One look for all screens: Fusion, one palette, one scale of distances, German texts of Qt's own.
 namespace Stil {
-inline constexpr int kAbstand = 8;       ///< between the parts of a screen
-inline constexpr int kRand = 12;         ///< around a screen
-inline constexpr int kEng = 4;           ///< between a label and its field
+inline constexpr int kAbstand = 8; ///< between the parts of a screen
+inline constexpr int kRand = 12;   ///< around a screen
+inline constexpr int kEng = 4;     ///< between a label and its field
 
 void richteEin(QApplication& programm);
 

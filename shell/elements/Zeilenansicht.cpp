@@ -22,9 +22,15 @@ std::vector<Zellfarben> Zeilenansicht::zellfarben(int zeile) const
              palette().color(gewaehlt ? QPalette::HighlightedText : QPalette::Text)}};
 }
 
-int Zeilenansicht::obersteZeile() const { return verticalScrollBar()->value(); }
+int Zeilenansicht::obersteZeile() const
+{
+    return verticalScrollBar()->value();
+}
 
-int Zeilenansicht::zeilenJeSeite() const { return std::max(1, viewport()->height() / zeilenhoehe()); }
+int Zeilenansicht::zeilenJeSeite() const
+{
+    return std::max(1, viewport()->height() / zeilenhoehe());
+}
 
 QRect Zeilenansicht::zeilenrechteck(int zeile) const
 {
@@ -56,7 +62,10 @@ void Zeilenansicht::gleicheAb()
     horizontalScrollBar()->setSingleStep(fontMetrics().averageCharWidth());
 }
 
-void Zeilenansicht::erneuere() { QApplication::postEvent(this, new QEvent(QEvent::LayoutRequest)); }
+void Zeilenansicht::erneuere()
+{
+    QApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+}
 
 bool Zeilenansicht::event(QEvent* ereignis)
 {

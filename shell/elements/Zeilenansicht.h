@@ -36,8 +36,8 @@ public:
     /// Takes over a changed number of rows at once; otherwise it happens before the next painting.
     void gleicheAb();
 
-    std::function<void()> beiAuswahl;            ///< the user has chosen a row
-    std::function<void(int)> beiDoppelklick;     ///< the user has double clicked a row
+    std::function<void()> beiAuswahl;        ///< the user has chosen a row
+    std::function<void(int)> beiDoppelklick; ///< the user has double clicked a row
 
 protected:
     virtual void maleZeile(QPainter& maler, int zeile, const QRect& rechteck) = 0;

@@ -87,7 +87,10 @@ void Balkenfeld::ordne()
     update();
 }
 
-void Balkenfeld::resizeEvent(QResizeEvent*) { ordne(); }
+void Balkenfeld::resizeEvent(QResizeEvent*)
+{
+    ordne();
+}
 
 void Balkenfeld::paintEvent(QPaintEvent* ereignis)
 {

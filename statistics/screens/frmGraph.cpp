@@ -15,7 +15,8 @@ constexpr auto kInfo = "Wird der Mauszeiger auf einen Farbbalken bewegt, wird in
 } // namespace
 
 frmGraph::frmGraph(Umgebung& umgebung)
-    : Bildschirm(umgebung, "frmGraph", kTitel), statistik_(umgebung.bildschirme->lade<frmSTAT1>("frmSTAT1")),
+    : Bildschirm(umgebung, "frmGraph", kTitel),
+      statistik_(umgebung.bildschirme->lade<frmSTAT1>("frmSTAT1")),
       Bild1(new Balkenfeld(this))
 {
     Bezeichnung3 = bezeichnung("Bezeichnung3");

@@ -6,6 +6,7 @@
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
+#include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Spielarttexte.h"
 #include "statistics/screens/frmGraph.h"
@@ -16,50 +17,24 @@
 
 namespace {
 
-constexpr auto kInfo =
-    "Es wird ermittelt, wie oft jede der 49 Gewinnzahlen im gewählten Bereich gezogen wurde. Die größte Häufigkeit wird "
-    "rot, die kleinste cyan markiert.\n\n"
-    "Der Bereich wird nach Jahren gewählt, oder mit \"Z\" bis zu einer bestimmten Ziehung.\n\n";
+constexpr auto kInfo = "Es wird ermittelt, wie oft jede der 49 Gewinnzahlen im gewählten Bereich gezogen wurde. Die "
+                       "größte Häufigkeit wird "
+                       "rot, die kleinste cyan markiert.\n\n"
+                       "Der Bereich wird nach Jahren gewählt, oder mit \"Z\" bis zu einer bestimmten Ziehung.\n\n";
 
 constexpr auto kInfoMittwoch =
     "Bei ausgewählter Spielart Mittwochslotto wird die zusätzliche Befehlsschaltfläche Mittwochslotto (A+B) sichtbar. "
     "Mit dieser Befehlsschaltfläche werden zusätzlich die Ziehungen der Ziehung B ausgewertet. Die Ziehung B wurde im "
     "Mittwochslotto bis 29.11.2000 ausgespielt. Ausgewertet wird dabei ohne Zusatzzahl.";
 
-void gestalte(QLabel* zahl, QLabel* anzahl)
-{
-    zahl->setAlignment(Qt::AlignCenter);
-    anzahl->setAlignment(Qt::AlignCenter);
-    anzahl->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    anzahl->setMinimumSize(72, 24);
-    anzahl->setBackgroundRole(QPalette::Base);
-    faerbe(anzahl, anzahl->palette().color(QPalette::Base), Farben::Text);
-}
-
-/// Red for a highest count, cyan for a lowest one; where both hold, the lowest is marked last.
-void faerbeAnzahl(QLabel* anzahl, bool hoechste, bool niedrigste)
-{
-    if (niedrigste)
-        faerbe(anzahl, Farben::Markiert, Farben::Text);
-    else if (hoechste)
-        faerbe(anzahl, Farben::Hoechstwert, Farben::HoechstwertText);
-    else
-        faerbe(anzahl, anzahl->parentWidget()->palette().color(QPalette::Base), Farben::Text);
-}
-
 } // namespace
 
 frmSTAT1::frmSTAT1(Umgebung& umgebung)
     : Bildschirm(umgebung, "frmSTAT1", "Häufigkeitsverteilung der einzelnen Gewinnzahlen"),
-      bereich_(new AuswertebereichView(*this)), infotafel_(new Infotafel(this, kInfoMittwoch))
+      bereich_(new AuswertebereichView(*this)),
+      infotafel_(new Infotafel(this, kInfoMittwoch))
 {
-    feld(bezeichnung59, "bezeichnung59", ab(1));
-    feld(bezeichnung114, "bezeichnung114", ab(1));
-    for (std::size_t i = 0; i < bezeichnung59.size(); ++i) {
-        gestalte(bezeichnung59[i], bezeichnung114[i]);
-        bezeichnung59[i]->setNum(static_cast<int>(i) + 1);
-        bezeichnung114[i]->setNum(0);
-    }
+    bezeichnung114 = new Zahlenblock("bezeichnung59", "bezeichnung114", this);
     Bezeichnung3 = bezeichnung("Bezeichnung3", "max");
     Bezeichnung4 = bezeichnung("Bezeichnung4", "min");
     Bezeichnung6 = bezeichnung("Bezeichnung6");
@@ -88,7 +63,7 @@ frmSTAT1::frmSTAT1(Umgebung& umgebung)
             rahmen("Rahmen8", "Auswertung starten", zeile({Befehl2, Befehl3, Befehl4, Befehl8})),
             luecke(),
         }),
-        dehnbar(raster(7, bezeichnung59, bezeichnung114)),
+        dehnbar(bezeichnung114),
         zeile({
             Bezeichnung57, Bezeichnung58, luecke(),
             Bezeichnung3, luecke(), Bezeichnung4,
@@ -115,7 +90,10 @@ void frmSTAT1::beimZeigen()
     zeigeStand();
 }
 
-void frmSTAT1::zeigeStand() { Bezeichnung6->setText(qt(gespeicherteZiehungen(umgebung().archiv))); }
+void frmSTAT1::zeigeStand()
+{
+    Bezeichnung6->setText(qt(gespeicherteZiehungen(umgebung().archiv)));
+}
 
 void frmSTAT1::werteAus(ZZModus modus)
 {
@@ -151,11 +129,14 @@ void frmSTAT1::werteMittwochAus()
 void frmSTAT1::zeigeErgebnis()
 {
     const Extremwerte extreme = extremwerte(ergebnis_.haeufigkeit);
+    bezeichnung114->loescheFarben();
     for (int zahl = 1; zahl <= 49; ++zahl) {
         const auto stelle = static_cast<std::size_t>(zahl);
-        QLabel* anzahl = bezeichnung114[stelle - 1];
-        anzahl->setNum(ergebnis_.haeufigkeit.fuer(zahl));
-        faerbeAnzahl(anzahl, extreme.maxima[stelle], extreme.minima[stelle]);
+        bezeichnung114->setzeWert(zahl, QString::number(ergebnis_.haeufigkeit.fuer(zahl)));
+        if (extreme.maxima[stelle])
+            bezeichnung114->faerbeWert(zahl, Farben::Hoechstwert);
+        if (extreme.minima[stelle])
+            bezeichnung114->faerbeWert(zahl, Farben::Markiert);
     }
     Bezeichnung3->setText(qt(maximumText(extreme)));
     Bezeichnung4->setText(qt(minimumText(extreme)));
@@ -181,7 +162,10 @@ void frmSTAT1::drucke()
         setzeTitel("Es ist kein Standarddrucker eingerichtet.");
 }
 
-bool frmSTAT1::kehrtZumMenueZurueck() const { return !umgebung().VorschlagLaeuft; }
+bool frmSTAT1::kehrtZumMenueZurueck() const
+{
+    return !umgebung().VorschlagLaeuft;
+}
 
 void frmSTAT1::beimSchliessen()
 {

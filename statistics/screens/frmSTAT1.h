@@ -5,6 +5,7 @@
 #include "statistics/logic/HaeufigkeitAuswertung.h"
 
 class Infotafel;
+class Zahlenblock;
 
 /// Frequency distribution: how often each of the 49 numbers was drawn in a range of draws.
 class frmSTAT1 final : public Bildschirm {
@@ -31,8 +32,7 @@ private:
 
     HaeufigkeitAuswertung ergebnis_;
     AuswertebereichView* bereich_;
-    std::array<QLabel*, 49> bezeichnung59;  ///< the numbers 1..49
-    std::array<QLabel*, 49> bezeichnung114; ///< and their counts
+    Zahlenblock* bezeichnung114; ///< the 49 counts
     QLabel *Bezeichnung3, *Bezeichnung4, *Bezeichnung6, *Bezeichnung7, *Bezeichnung57, *Bezeichnung58;
     QPushButton *Befehl1, *Befehl2, *Befehl3, *Befehl4, *Befehl5, *Befehl6, *Befehl7, *Befehl8, *Befehl11;
     Infotafel* infotafel_;

@@ -1,6 +1,5 @@
-#include "tools/drive/Buehnentest.h"
-
 #include "shell/elements/Bildschirm.h"
+#include "tools/drive/Buehnentest.h"
 
 #include <QFileInfo>
 
@@ -36,8 +35,7 @@ protected:
     void pruefe(const std::array<int, 50>& erwartet)
     {
         for (int zahl = 1; zahl <= 49; ++zahl)
-            EXPECT_EQ(lies(QString("bezeichnung114(%1)").arg(zahl)).toInt(),
-                      erwartet[static_cast<std::size_t>(zahl)])
+            EXPECT_EQ(lies(QString("bezeichnung114(%1)").arg(zahl)).toInt(), erwartet[static_cast<std::size_t>(zahl)])
                 << zahl;
     }
     std::string datei(const char* name) const { return ordner.filePath(name).toStdString(); }

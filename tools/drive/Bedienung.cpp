@@ -14,7 +14,10 @@
 
 namespace {
 
-Antwort verweigert(const QString& grund) { return {{}, grund}; }
+Antwort verweigert(const QString& grund)
+{
+    return {{}, grund};
+}
 
 /// Name of the menu's button for a screen; empty if it has none.
 QString menueknopf(const std::vector<std::vector<Menuegruppe>>& tafel, const QString& ziel)
@@ -176,7 +179,8 @@ Antwort Bedienung::namen()
     if (!bildschirm)
         return verweigert("kein Bildschirm");
     for (const QObject* feld : bildschirm->findChildren<QObject*>()) {
-        const bool zaehlt = feld->isWidgetType() || qobject_cast<const QAction*>(feld) || qobject_cast<const QTimer*>(feld);
+        const bool zaehlt =
+            feld->isWidgetType() || qobject_cast<const QAction*>(feld) || qobject_cast<const QTimer*>(feld);
         if (zaehlt && !feld->objectName().isEmpty() && !feld->objectName().startsWith("qt_"))
             antwort.zeilen << feld->objectName() + "\t" + feld->metaObject()->className() + "\t" + liesFeld(feld);
     }

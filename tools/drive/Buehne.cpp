@@ -62,7 +62,10 @@ std::optional<QString> AufgezeichneteBoxen::datei(const DateiFrage& frage)
     return gegeben.mid(5);
 }
 
-std::vector<GezeigteBox> AufgezeichneteBoxen::entnehme() { return std::exchange(gezeigt_, {}); }
+std::vector<GezeigteBox> AufgezeichneteBoxen::entnehme()
+{
+    return std::exchange(gezeigt_, {});
+}
 
 bool PdfDrucker::drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male)
 {
@@ -83,7 +86,10 @@ bool GemerkterOeffner::oeffne(const QString& dateiOderAdresse)
     return true;
 }
 
-QStringList GemerkterOeffner::entnehme() { return std::exchange(geoeffnet_, {}); }
+QStringList GemerkterOeffner::entnehme()
+{
+    return std::exchange(geoeffnet_, {});
+}
 
 bool BeobachtetePumpe::verarbeite()
 {

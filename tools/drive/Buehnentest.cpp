@@ -12,7 +12,10 @@ namespace {
 constexpr std::chrono::sys_days kStand{std::chrono::year{2026} / std::chrono::November / 21};
 }
 
-Buehnentest::Buehnentest() { schreibeMusterDateien(ordner.path().toStdString(), kStand); }
+Buehnentest::Buehnentest()
+{
+    schreibeMusterDateien(ordner.path().toStdString(), kStand);
+}
 
 void Buehnentest::schreibe(const QString& name, const std::vector<std::string>& zeilen) const
 {
@@ -22,7 +25,10 @@ void Buehnentest::schreibe(const QString& name, const std::vector<std::string>& 
         datei.write(QByteArray::fromStdString(zeile + "\r\n"));
 }
 
-void Buehnentest::starte() { buehne.starte(); }
+void Buehnentest::starte()
+{
+    buehne.starte();
+}
 
 QString Buehnentest::gelungen(const Antwort& antwort)
 {
@@ -30,15 +36,42 @@ QString Buehnentest::gelungen(const Antwort& antwort)
     return antwort.zeilen.join('\n');
 }
 
-void Buehnentest::oeffne(const QString& bildschirm) { gelungen(bedienung.oeffne(bildschirm)); }
-void Buehnentest::klicke(const QString& name) { gelungen(bedienung.klicke(name)); }
-void Buehnentest::ueberfahre(const QString& name) { gelungen(bedienung.ueberfahre(name)); }
-void Buehnentest::setze(const QString& name, const QString& text) { gelungen(bedienung.setze(name, text)); }
-void Buehnentest::tippe(const QString& name, const QString& tasten) { gelungen(bedienung.tippe(name, tasten)); }
-void Buehnentest::schliesse() { gelungen(bedienung.schliesse()); }
-QString Buehnentest::lies(const QString& name) { return gelungen(bedienung.text(name)); }
-QString Buehnentest::zustand(const QString& name) { return gelungen(bedienung.zustand(name)); }
-QString Buehnentest::titel() { return gelungen(bedienung.titel()); }
+void Buehnentest::oeffne(const QString& bildschirm)
+{
+    gelungen(bedienung.oeffne(bildschirm));
+}
+void Buehnentest::klicke(const QString& name)
+{
+    gelungen(bedienung.klicke(name));
+}
+void Buehnentest::ueberfahre(const QString& name)
+{
+    gelungen(bedienung.ueberfahre(name));
+}
+void Buehnentest::setze(const QString& name, const QString& text)
+{
+    gelungen(bedienung.setze(name, text));
+}
+void Buehnentest::tippe(const QString& name, const QString& tasten)
+{
+    gelungen(bedienung.tippe(name, tasten));
+}
+void Buehnentest::schliesse()
+{
+    gelungen(bedienung.schliesse());
+}
+QString Buehnentest::lies(const QString& name)
+{
+    return gelungen(bedienung.text(name));
+}
+QString Buehnentest::zustand(const QString& name)
+{
+    return gelungen(bedienung.zustand(name));
+}
+QString Buehnentest::titel()
+{
+    return gelungen(bedienung.titel());
+}
 
 void Buehnentest::waehle(const QString& name, const QList<int>& zeilen)
 {

@@ -83,7 +83,10 @@ const QWidget* grundVon(const QWidget* feld)
     return grund;
 }
 
-QString wahr(bool wert) { return wert ? "true" : "false"; }
+QString wahr(bool wert)
+{
+    return wert ? "true" : "false";
+}
 
 } // namespace
 

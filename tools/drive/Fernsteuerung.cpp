@@ -6,11 +6,14 @@
 
 namespace {
 
-constexpr int kTakt = 2;             ///< milliseconds between two looks at a wait
+constexpr int kTakt = 2; ///< milliseconds between two looks at a wait
 constexpr int kRuhewartezeit = 60000;
 
 /// In an answer a line break is "\n".
-QString einzeilig(QString text) { return text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\\n"); }
+QString einzeilig(QString text)
+{
+    return text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\\n");
+}
 
 /// The first word and the rest behind one blank; a rest keeps its own blanks.
 std::pair<QString, QString> teile(const QString& zeile)
@@ -28,7 +31,10 @@ bool istAntwort(const QString& wort)
 } // namespace
 
 Fernsteuerung::Fernsteuerung(Buehne& buehne, std::function<void(const QString&)> ausgabe)
-    : buehne_(buehne), bedienung_(buehne), ausgabe_(std::move(ausgabe)), befehle_(befehle())
+    : buehne_(buehne),
+      bedienung_(buehne),
+      ausgabe_(std::move(ausgabe)),
+      befehle_(befehle())
 {
     takt_.setInterval(kTakt);
     connect(&takt_, &QTimer::timeout, this, [this] { arbeite(); });
@@ -62,22 +68,42 @@ std::map<QString, Fernsteuerung::Befehl> Fernsteuerung::befehle()
         {"count", [&b](auto& rest) { return b.anzahl(rest); }},
         {"rows", [this](auto& rest) { return zeilen(rest); }},
         {"selected", [&b](auto& rest) { return b.gewaehlte(rest); }},
-        {"colors", [&b, mitText](auto& rest) { return mitText(rest, [&b](auto& n, auto& t) { return b.farben(n, t.toInt()); }); }},
+        {"colors",
+         [&b, mitText](auto& rest) {
+             return mitText(rest, [&b](auto& n, auto& t) { return b.farben(n, t.toInt()); });
+         }},
         {"items", [&b](auto& rest) { return b.eintraege(rest); }},
         {"title", [&b](auto&) { return b.titel(); }},
         {"boxes", [this](auto&) { return zeigeBoxen(); }},
         {"answer", [this](auto& rest) { return antworte(rest); }},
-        {"clipboard", [this](auto&) { return Antwort{{buehne_.zwischenablage.text()}, {}}; }},
-        {"opened", [this](auto&) { return Antwort{buehne_.oeffner.entnehme(), {}}; }},
-        {"printer", [this](auto& rest) { buehne_.drucker.setzeDatei(rest == "none" ? QString() : rest); return Antwort{}; }},
+        {"clipboard",
+         [this](auto&) {
+             return Antwort{{buehne_.zwischenablage.text()}, {}};
+         }},
+        {"opened",
+         [this](auto&) {
+             return Antwort{buehne_.oeffner.entnehme(), {}};
+         }},
+        {"printer",
+         [this](auto& rest) {
+             buehne_.drucker.setzeDatei(rest == "none" ? QString() : rest);
+             return Antwort{};
+         }},
         {"clock", [this](auto& rest) { return stelleUhr(rest); }},
         {"seed", [this](auto& rest) { return stelleZufall(rest); }},
         {"tick", [&b](auto& rest) { return b.ticke(rest); }},
         {"wait", [this](auto& rest) { return warte(rest); }},
         {"wait-idle", [this](auto& rest) { return warteAufRuhe(rest); }},
         {"shot", [&b](auto& rest) { return b.bild(rest); }},
-        {"time", [this](auto&) { return Antwort{{QString::number(letzteDauer_, 'f', 3)}, {}}; }},
-        {"quit", [this](auto&) { ende(); return Antwort{}; }},
+        {"time",
+         [this](auto&) {
+             return Antwort{{QString::number(letzteDauer_, 'f', 3)}, {}};
+         }},
+        {"quit",
+         [this](auto&) {
+             ende();
+             return Antwort{};
+         }},
     };
 }
 
@@ -127,8 +153,7 @@ void Fernsteuerung::fuehreAus(const QString& zeile)
     const auto befehl = befehle_.find(wort);
     QElapsedTimer stoppuhr;
     stoppuhr.start();
-    const Antwort antwort =
-        befehl == befehle_.end() ? Antwort{{}, "unbekannter Befehl " + wort} : befehl->second(rest);
+    const Antwort antwort = befehl == befehle_.end() ? Antwort{{}, "unbekannter Befehl " + wort} : befehl->second(rest);
     if (wort != "time")
         letzteDauer_ = static_cast<double>(stoppuhr.nsecsElapsed()) / 1e6;
     gibAus(antwort);

@@ -51,9 +51,9 @@ private:
     std::deque<QString> offen_;
     QTimer takt_;
     QElapsedTimer seitWarten_;
-    qint64 wartezeit_ = -1;      ///< milliseconds; -1: nothing is waited for
+    qint64 wartezeit_ = -1; ///< milliseconds; -1: nothing is waited for
     bool bisRuhe_ = false;
-    double letzteDauer_ = 0;     ///< milliseconds
+    double letzteDauer_ = 0; ///< milliseconds
     bool missglueckt_ = false;
     bool endet_ = false;
     bool eingabeZuEnde_ = false;

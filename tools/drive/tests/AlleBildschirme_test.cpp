@@ -56,7 +56,10 @@ QSize platzFuerText(const QWidget* feld)
     return {};
 }
 
-QRect aufSchirm(const QWidget* feld) { return {feld->mapToGlobal(QPoint(0, 0)), feld->size()}; }
+QRect aufSchirm(const QWidget* feld)
+{
+    return {feld->mapToGlobal(QPoint(0, 0)), feld->size()};
+}
 
 /// The game's name and its shadow lie on each other on purpose.
 bool sindSchatten(const QWidget* a, const QWidget* b)
@@ -138,8 +141,7 @@ TEST_F(AlleBildschirme, SindMitDerTastaturErreichbar)
 {
     jeden([](const Bildschirm& bildschirm) {
         for (const QWidget* feld : sichtbareFelder(bildschirm)) {
-            const bool knopf =
-                qobject_cast<const QAbstractButton*>(feld) && !qobject_cast<const QRadioButton*>(feld);
+            const bool knopf = qobject_cast<const QAbstractButton*>(feld) && !qobject_cast<const QRadioButton*>(feld);
             if (knopf || qobject_cast<const QComboBox*>(feld) || dynamic_cast<const Zeilenansicht*>(feld)) {
                 EXPECT_TRUE(feld->focusPolicy() & Qt::TabFocus) << feld->objectName().toStdString();
             }

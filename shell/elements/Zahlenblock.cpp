@@ -1,0 +1,69 @@
+#include "shell/elements/Zahlenblock.h"
+
+#include "shell/elements/Farben.h"
+#include "shell/elements/Stil.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+constexpr int kJeReihe = 7;
+constexpr QSize kKleinstesFeld{72, 24};
+
+/// Black or white, whichever is easier to read.
+QColor schriftAuf(const QColor& grund)
+{
+    return qGray(grund.rgb()) < 100 ? QColor(Qt::white) : Farben::Text;
+}
+
+QLabel* benannt(QLabel* feld, const QString& name, int zahl)
+{
+    feld->setObjectName(QString("%1(%2)").arg(name).arg(zahl));
+    feld->setAlignment(Qt::AlignCenter);
+    return feld;
+}
+
+} // namespace
+
+Zahlenblock::Zahlenblock(const QString& zahlen, const QString& werte, QWidget* eltern) : QWidget(eltern)
+{
+    auto* gitter = new QGridLayout(this);
+    gitter->setContentsMargins(0, 0, 0, 0);
+    gitter->setHorizontalSpacing(Stil::kAbstand);
+    gitter->setVerticalSpacing(Stil::kEng);
+    for (int zahl = 1; zahl <= 49; ++zahl) {
+        auto* wert = benannt(new QLabel(this), werte, zahl);
+        wert->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        wert->setMinimumSize(kKleinstesFeld);
+        wert->setBackgroundRole(QPalette::Base);
+        werte_[static_cast<std::size_t>(zahl - 1)] = wert;
+        const int reihe = 2 * ((zahl - 1) / kJeReihe);
+        const int spalte = (zahl - 1) % kJeReihe;
+        gitter->addWidget(benannt(new QLabel(QString::number(zahl), this), zahlen, zahl), reihe, spalte);
+        gitter->addWidget(wert, reihe + 1, spalte);
+        gitter->setRowStretch(reihe + 1, 1);
+    }
+    loescheFarben();
+}
+
+void Zahlenblock::setzeWert(int zahl, const QString& wert)
+{
+    feld(zahl)->setText(wert);
+}
+
+QString Zahlenblock::wert(int zahl) const
+{
+    return feld(zahl)->text();
+}
+
+void Zahlenblock::loescheFarben()
+{
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        faerbeWert(zahl, palette().color(QPalette::Base));
+}
+
+void Zahlenblock::faerbeWert(int zahl, const QColor& grund)
+{
+    faerbe(feld(zahl), grund, schriftAuf(grund));
+}
