@@ -1,6 +1,8 @@
 #include "shell/elements/BildschirmVerzeichnis.h"
 
 #include "shell/elements/Bildschirm.h"
+#include "shell/elements/Utf8.h"
+#include "shell/logic/Formular.h"
 
 #include <QScreen>
 
@@ -82,6 +84,14 @@ std::vector<Bildschirm*> BildschirmVerzeichnis::geladene() const
             alle.push_back(eintrag.geladen.get());
     }
     return alle;
+}
+
+bool BildschirmVerzeichnis::FormGeladen(const QString& name) const
+{
+    std::vector<std::string> namen;
+    for (const Bildschirm* bildschirm : geladene())
+        namen.push_back(utf8(bildschirm->name()));
+    return ::FormGeladen(namen, utf8(name));
 }
 
 Bildschirm& BildschirmVerzeichnis::oeffne(const QString& name)

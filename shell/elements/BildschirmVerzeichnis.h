@@ -35,6 +35,8 @@ public:
     /// Null if the screen is not loaded.
     Bildschirm* geladen(const QString& name) const;
     std::vector<Bildschirm*> geladene() const;
+    /// True if a screen of that name, in whatever case, is loaded.
+    bool FormGeladen(const QString& name) const;
 
     /// Loads the screen, centres it and brings it to the front.
     Bildschirm& oeffne(const QString& name);
