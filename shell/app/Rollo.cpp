@@ -90,7 +90,7 @@ Rollo::Rollo(QWidget* eltern) : QFrame(eltern)
     TextRand(txtRollo, 0, 0, 0, 0);
 }
 
-void Rollo::setzeInhalt(QLayout* inhalt)
+void Rollo::setzeInhalt(QWidget* inhalt)
 {
     QLayout* ganz = spalte({imgRollo, txtRollo, dehnbar(inhalt), ShapeRollo});
     ganz->setContentsMargins(Stil::kAbstand, 0, Stil::kAbstand, Stil::kAbstand);

@@ -28,7 +28,7 @@ private:
 class Rollo final : public QFrame {
 public:
     explicit Rollo(QWidget* eltern);
-    void setzeInhalt(QLayout* inhalt);
+    void setzeInhalt(QWidget* inhalt);
 
 private:
     QLabel* imgRollo;

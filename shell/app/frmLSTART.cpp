@@ -1,5 +1,6 @@
 #include "shell/app/frmLSTART.h"
 
+#include "shell/app/Knopfwand.h"
 #include "shell/app/Rollo.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Farben.h"
@@ -23,8 +24,19 @@
 namespace {
 
 constexpr auto kTitel = "Lotto-Auswahlmenü";
-constexpr int kKnopfhoehe = 34;
 constexpr auto kSpendenseite = "https://www.paypal.com/donate";
+
+constexpr auto kInfoZusammen =
+    "Bis Juni 2013 wurden für die Mittwochs- und Samstagsziehungen des Lotto 6 aus 49 verschiedenen "
+    "Ziehungsgeräte und Kugelsätze verwendet. Die Samstagsziehungen fanden beim Hessischen Rundfunk in Frankfurt "
+    "statt. Die Mittwochsziehungen fanden beim ZDF in Mainz statt (anderes Ziehungsgerät, anderer Kugelsatz).\n"
+    "Da für die Ziehungen also verschiedene Geräte und Kugeln verwendet wurden, war es sinnvoll die "
+    "Lottostatistiken getrennt für Samstag und Mittwoch zu erstellen.\n"
+    "Seit dem 06.07.2013 werden alle Ziehungen (Sa+Mi) in einem Studio des Saarländischen Rundfunks "
+    "durchgeführt. Da die Ziehungen also jetzt mit nur einem Ziehungsgerät und gleichen Kugeln stattfinden, ist "
+    "eine strikte Trennung der Statistiken für das Samstags- und Mittwochlotto eigentlich nicht mehr notwendig.\n"
+    "Mit Auswahl des Optionsfeldes \"Sa + Mi zusammen\" können die wichtigsten Statistiken deshalb auch zusammen "
+    "für das Samstags- und Mittwochslotto ausgewertet werden.";
 
 /// What the menu says of one game.
 struct Spieltexte {
@@ -58,24 +70,11 @@ frmLSTART::frmLSTART(Umgebung& umgebung) : Bildschirm(umgebung, "frmLSTART", kTi
                hinweis("Bei Auswahl dieser Option können die Samstags- und Mittwochsziehungen für die wichtigsten "
                        "Statistiken zusammen auswertet werden."));
     mnuOption = bauePopup();
-    auto* ordentlich = new QWidget(this);
-    ordentlich->setLayout(wand(menuewand(), false));
+    wand_ = baueWand(menuewand(), "Gruppe");
     frameRollo = baueRollo();
-
     wechsel_ = new QStackedLayout;
-    wechsel_->addWidget(ordentlich);
+    wechsel_->addWidget(wand_);
     wechsel_->addWidget(frameRollo);
-
-    Bezeichnung2 = bezeichnung("Bezeichnung2");
-    Bezeichnung2->setContentsMargins(Stil::kRand, Stil::kAbstand, Stil::kRand, Stil::kAbstand);
-    Bezeichnung2->setWordWrap(true);
-    Bezeichnung2->setMinimumHeight(2 * fontMetrics().lineSpacing() + 2 * Stil::kAbstand);
-    picU = new QFrame(this);
-    picU->setObjectName("picU");
-    faerbe(picU, Farben::Fuss, Farben::FussText);
-    faerbe(Bezeichnung2, Farben::Fuss, Farben::FussText);
-    QLayout* fuss = spalte({Bezeichnung2});
-    picU->setLayout(fuss);
 
     // clang-format off
     QLayout* oben = zeile({
@@ -89,7 +88,7 @@ frmLSTART::frmLSTART(Umgebung& umgebung) : Bildschirm(umgebung, "frmLSTART", kTi
     });
     // clang-format on
     oben->setContentsMargins(2 * Stil::kRand, 2 * Stil::kRand, 2 * Stil::kRand, 2 * Stil::kRand);
-    auto* ganz = spalte({dehnbar(oben), picU});
+    auto* ganz = spalte({dehnbar(oben), baueFuss()});
     ganz->setSpacing(0);
     setLayout(ganz);
 
@@ -138,38 +137,33 @@ QMenu* frmLSTART::bauePopup()
     return menue;
 }
 
-QLayout* frmLSTART::wand(const std::vector<std::vector<Menuegruppe>>& spalten, bool rollo)
+Knopfwand* frmLSTART::baueWand(const std::vector<std::vector<Menuegruppe>>& spalten, const QString& gruppenname)
 {
-    Bloecke bloecke;
-    for (const std::vector<Menuegruppe>& gruppen : spalten) {
-        Bloecke untereinander;
-        for (const Menuegruppe& inhalt : gruppen)
-            untereinander.push_back(gruppe(inhalt, rollo));
-        untereinander.push_back(luecke());
-        bloecke.push_back(dehnbar(spalte(untereinander)));
-    }
-    return zeile(bloecke);
-}
-
-QGroupBox* frmLSTART::gruppe(const Menuegruppe& gruppe, bool rollo)
-{
-    Bloecke bloecke;
-    for (const Menueknopf& eintrag : gruppe.knoepfe) {
-        QPushButton* knopf = befehl(eintrag.name, eintrag.text, hinweis(eintrag.hinweis));
-        knopf->setEnabled(QString(eintrag.ziel).isEmpty() || umgebung().bildschirme->kennt(eintrag.ziel));
-        bei(knopf, [this, eintrag] { fuehreAus(eintrag); });
-        knopf->setMinimumHeight(kKnopfhoehe);
-        knoepfe_[eintrag.name] = knopf;
-        bloecke.push_back(knopf);
-    }
-    return rahmen(QString(rollo ? "Rollo%1" : "Gruppe%1").arg(gruppe.titel), gruppe.titel, eng(spalte(bloecke)));
+    auto* wand = new Knopfwand(
+        spalten, gruppenname, [this](const Menueknopf& knopf) { fuehreAus(knopf); }, this);
+    wand->gibFrei([this](const QString& ziel) { return umgebung().bildschirme->kennt(ziel); });
+    return wand;
 }
 
 QWidget* frmLSTART::baueRollo()
 {
     auto* rollo = new Rollo(this);
-    rollo->setzeInhalt(wand(menuerollo(), true));
+    rollo->setzeInhalt(baueWand(menuerollo(), "Rollo"));
     return rollo;
+}
+
+QWidget* frmLSTART::baueFuss()
+{
+    Bezeichnung2 = bezeichnung("Bezeichnung2");
+    Bezeichnung2->setContentsMargins(Stil::kRand, Stil::kAbstand, Stil::kRand, Stil::kAbstand);
+    Bezeichnung2->setWordWrap(true);
+    Bezeichnung2->setMinimumHeight(2 * fontMetrics().lineSpacing() + 2 * Stil::kAbstand);
+    picU = new QFrame(this);
+    picU->setObjectName("picU");
+    faerbe(picU, Farben::Fuss, Farben::FussText);
+    faerbe(Bezeichnung2, Farben::Fuss, Farben::FussText);
+    picU->setLayout(spalte({Bezeichnung2}));
+    return picU;
 }
 
 void frmLSTART::waehleSpielart(std::int16_t spielart)
@@ -199,19 +193,19 @@ void frmLSTART::sperreKnoepfe(std::int16_t spielart)
 {
     for (const char* name : {"Befehl3", "Befehl18"}) {
         const QString ziel = QString(name) == "Befehl3" ? "frmAnzeige" : "frmTA";
-        knoepfe_[name]->setEnabled(spielart != MittwochslottoB && umgebung().bildschirme->kennt(ziel));
+        wand_->knopf(name)->setEnabled(spielart != MittwochslottoB && umgebung().bildschirme->kennt(ziel));
     }
     const auto entwickelt = [](const QAction* zeile) { return zeile->isEnabled() && !zeile->isSeparator(); };
     const auto zeilen = mnuOption->actions();
-    knoepfe_["Befehl1"]->setEnabled(spielart != MittwochslottoB &&
-                                    std::any_of(zeilen.begin(), zeilen.end(), entwickelt));
+    wand_->knopf("Befehl1")->setEnabled(spielart != MittwochslottoB &&
+                                        std::any_of(zeilen.begin(), zeilen.end(), entwickelt));
 }
 
 void frmLSTART::setzeJahreshinweise(std::int16_t spielart)
 {
     const QString jahr = istSamstag(spielart) ? "1955" : "1986";
-    setzeHinweis(knoepfe_["Befehl2"], "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung " + jahr);
-    setzeHinweis(knoepfe_["Befehl11"], "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit " + jahr);
+    setzeHinweis(wand_->knopf("Befehl2"), "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung " + jahr);
+    setzeHinweis(wand_->knopf("Befehl11"), "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit " + jahr);
 }
 
 void frmLSTART::zeigeZusammen()
@@ -246,7 +240,7 @@ void frmLSTART::zeigeStatus(const QString& text)
 
 void frmLSTART::mausUeber(QWidget* feld)
 {
-    if (feld == knoepfe_["Befehl13"])
+    if (feld == wand_->knopf("Befehl13"))
         tippe();
     if (feld != this) {
         Bildschirm::mausUeber(feld);
@@ -298,7 +292,7 @@ void frmLSTART::oeffneAusPopup(const Popupeintrag& eintrag)
 {
     for (QAction* zeile : mnuOption->actions())
         zeile->setChecked(zeile->objectName() == eintrag.name);
-    knoepfe_["Befehl1"]->setEnabled(true);
+    wand_->knopf("Befehl1")->setEnabled(true);
     umgebung().klang.SpieleKlang(1);
     umgebung().bildschirme->oeffne(eintrag.ziel);
     hide();
@@ -319,18 +313,7 @@ void frmLSTART::zeigeHilfe()
 
 void frmLSTART::zeigeInfoZusammen()
 {
-    umgebung().boxen.info(
-        kProgrammtitel,
-        "Bis Juni 2013 wurden für die Mittwochs- und Samstagsziehungen des Lotto 6 aus 49 verschiedenen "
-        "Ziehungsgeräte und Kugelsätze verwendet. Die Samstagsziehungen fanden beim Hessischen Rundfunk in Frankfurt "
-        "statt. Die Mittwochsziehungen fanden beim ZDF in Mainz statt (anderes Ziehungsgerät, anderer Kugelsatz).\n"
-        "Da für die Ziehungen also verschiedene Geräte und Kugeln verwendet wurden, war es sinnvoll die "
-        "Lottostatistiken getrennt für Samstag und Mittwoch zu erstellen.\n"
-        "Seit dem 06.07.2013 werden alle Ziehungen (Sa+Mi) in einem Studio des Saarländischen Rundfunks "
-        "durchgeführt. Da die Ziehungen also jetzt mit nur einem Ziehungsgerät und gleichen Kugeln stattfinden, ist "
-        "eine strikte Trennung der Statistiken für das Samstags- und Mittwochlotto eigentlich nicht mehr notwendig.\n"
-        "Mit Auswahl des Optionsfeldes \"Sa + Mi zusammen\" können die wichtigsten Statistiken deshalb auch zusammen "
-        "für das Samstags- und Mittwochslotto ausgewertet werden.");
+    umgebung().boxen.info(kProgrammtitel, kInfoZusammen);
 }
 
 void frmLSTART::paintEvent(QPaintEvent*)

@@ -3,8 +3,7 @@
 #include "shell/app/Menuetafel.h"
 #include "shell/elements/Bildschirm.h"
 
-#include <map>
-
+class Knopfwand;
 class QFrame;
 class QMenu;
 class QStackedLayout;
@@ -28,9 +27,9 @@ protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
-    QLayout* wand(const std::vector<std::vector<Menuegruppe>>& spalten, bool rollo);
-    QGroupBox* gruppe(const Menuegruppe& gruppe, bool rollo);
+    Knopfwand* baueWand(const std::vector<std::vector<Menuegruppe>>& spalten, const QString& gruppenname);
     QWidget* baueRollo();
+    QWidget* baueFuss();
     QWidget* baueSpielnamen();
     QMenu* bauePopup();
     QGroupBox* baueTipp();
@@ -56,6 +55,6 @@ private:
     QWidget* frameRollo;
     QMenu* mnuOption;
     Tippfeld7x7View* Bezeichnung1;
-    std::map<QString, QPushButton*> knoepfe_;
+    Knopfwand* wand_;
     QStackedLayout* wechsel_;
 };
