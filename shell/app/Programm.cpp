@@ -6,8 +6,12 @@
 #include <QIcon>
 #include <QLoggingCategory>
 
+/// The resources lie in a static library, from which the linker takes only what is named.
+static void ladeRessourcen() { Q_INIT_RESOURCE(ressourcen); }
+
 Programm::Programm(int& anzahl, char** argumente) : QApplication(anzahl, argumente)
 {
+    ladeRessourcen();
     setApplicationName("tombrix");
     setApplicationDisplayName({});
     setQuitOnLastWindowClosed(false);
