@@ -1,21 +1,10 @@
 #pragma once
 
+#include "listcontrol/logic/ListenFehler.h"
 #include "listcontrol/logic/ListenModell.h"
 
 #include <cstdint>
-#include <stdexcept>
 #include <string>
-
-/// What the list access raises: `what()` is the text for the user, `quelle()` the routine that failed.
-class ListenFehler : public std::runtime_error {
-public:
-    ListenFehler(std::string quelle, const std::string& text) : std::runtime_error(text), quelle_(std::move(quelle)) {}
-
-    const std::string& quelle() const { return quelle_; }
-
-private:
-    std::string quelle_;
-};
 
 // Access to a list box of any length. A null pointer is no list box. All raise `ListenFehler`; indices count from 0.
 

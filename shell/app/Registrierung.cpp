@@ -1,13 +1,29 @@
 #include "shell/app/Registrierung.h"
 
+#include "archive/screens/frmAnzeige.h"
+#include "archive/screens/frmOnline.h"
+#include "archive/screens/frmlana.h"
 #include "shell/app/frmLSTART.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
+#include "statistics/screens/frmABSTAND.h"
 #include "statistics/screens/frmGraph.h"
+#include "statistics/screens/frmHJAHR.h"
+#include "statistics/screens/frmSJAHR.h"
 #include "statistics/screens/frmSTAT1.h"
+#include "statistics/screens/frmSWH.h"
+#include "statistics/screens/frmZuletzt.h"
 
 void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
 {
     verzeichnis.registriere<frmLSTART>("frmLSTART");
+    verzeichnis.registriere<frmAnzeige>("frmAnzeige");
+    verzeichnis.registriere<frmOnline>("frmOnline");
+    verzeichnis.registriere<frmlana>("frmlana");
     verzeichnis.registriere<frmSTAT1>("frmSTAT1");
     verzeichnis.registriere<frmGraph>("frmGraph");
+    verzeichnis.registriere<frmZuletzt>("frmZuletzt");
+    verzeichnis.registriere<frmABSTAND>("frmABSTAND");
+    verzeichnis.registriere<frmSJAHR>("frmSJAHR");
+    verzeichnis.registriere<frmSWH>("frmSWH");
+    verzeichnis.registriere<frmHJAHR>("frmHJAHR");
 }

@@ -111,6 +111,14 @@ QLabel* Bildschirm::bezeichnung(const QString& name, const QString& text)
     return benannt(new QLabel(text, this), name);
 }
 
+QLabel* Bildschirm::listenkopf(const QString& name, const QString& text)
+{
+    QLabel* kopf = bezeichnung(name, text);
+    kopf->setFont(Stil::festeSchrift());
+    kopf->setIndent(Liste::kEinzug + 1);
+    return kopf;
+}
+
 QLineEdit* Bildschirm::textfeld(const QString& name, const QString& text)
 {
     return benannt(new QLineEdit(text, this), name);

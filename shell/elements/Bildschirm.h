@@ -60,6 +60,8 @@ public:
     /// Asks the running evaluation to end at its next turn.
     void stoppe() { stopp_ = true; }
     bool gestoppt() const { return stopp_; }
+    /// True from its closing in the middle of a run until the run has unwound and the screen is gone.
+    bool schliesst() const { return schliesstNachLauf_; }
 
     /// The mouse moved over `feld`, a control of this screen or the screen itself. Shows the hint.
     virtual void mausUeber(QWidget* feld);
@@ -88,6 +90,8 @@ protected:
 
     QPushButton* befehl(const QString& name, const QString& text, const Hinweis& hinweis = {});
     QLabel* bezeichnung(const QString& name, const QString& text = {});
+    /// The column heads above a list box, in its font and at its indent.
+    QLabel* listenkopf(const QString& name, const QString& text);
     QLineEdit* textfeld(const QString& name, const QString& text = {});
     QComboBox* kombi(const QString& name);
     QCheckBox* kontroll(const QString& name, const QString& text);

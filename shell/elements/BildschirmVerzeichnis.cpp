@@ -33,7 +33,10 @@ BildschirmVerzeichnis::~BildschirmVerzeichnis()
 
 void BildschirmVerzeichnis::registriere(const QString& name, Erzeuger erzeuger)
 {
-    eintraege_.push_back({name, std::move(erzeuger), nullptr});
+    if (Eintrag* eintrag = finde(name))
+        eintrag->erzeuger = std::move(erzeuger);
+    else
+        eintraege_.push_back({name, std::move(erzeuger), nullptr});
 }
 
 std::vector<QString> BildschirmVerzeichnis::namen() const
@@ -119,7 +122,9 @@ void BildschirmVerzeichnis::entlade(Bildschirm& bildschirm)
 void BildschirmVerzeichnis::entladeAlle()
 {
     for (int runde = 0; runde < 2; ++runde) {
-        for (Bildschirm* bildschirm : geladene())
-            bildschirm->close();
+        for (Bildschirm* bildschirm : geladene()) {
+            if (geladen(bildschirm->name()) == bildschirm) // else another one has closed it
+                bildschirm->close();
+        }
     }
 }

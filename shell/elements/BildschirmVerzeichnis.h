@@ -17,6 +17,7 @@ public:
     explicit BildschirmVerzeichnis(Umgebung& umgebung);
     ~BildschirmVerzeichnis();
 
+    /// A name registered before gets a new maker; a screen that is loaded stays.
     void registriere(const QString& name, Erzeuger erzeuger);
     /// Registers `T`, which is made from an Umgebung&.
     template <class T> void registriere(const QString& name)

@@ -1,7 +1,8 @@
 #include "shell/elements/Farben.h"
 
+#include <QAbstractScrollArea>
+#include <QGuiApplication>
 #include <QPalette>
-#include <QWidget>
 
 QPalette Farben::palette()
 {
@@ -22,16 +23,18 @@ QPalette Farben::palette()
 
 void faerbe(QWidget* feld, const QColor& grund, const QColor& schrift)
 {
+    const auto* rollend = qobject_cast<const QAbstractScrollArea*>(feld);
+    const QWidget* flaeche = rollend ? rollend->viewport() : feld;
     QPalette p = feld->palette();
-    p.setColor(feld->backgroundRole(), grund);
-    p.setColor(feld->foregroundRole(), schrift);
+    p.setColor(flaeche->backgroundRole(), grund);
+    p.setColor(flaeche->foregroundRole(), schrift);
     feld->setPalette(p);
     feld->setAutoFillBackground(true);
 }
 
 void markiere(QWidget* feld, bool markiert)
 {
-    faerbe(feld, markiert ? Farben::Markiert : feld->palette().color(QPalette::Base),
+    faerbe(feld, markiert ? Farben::Markiert : QGuiApplication::palette().color(QPalette::Base),
            markiert ? Farben::MarkiertText : Farben::Text);
     QFont schrift = feld->font();
     schrift.setBold(markiert);

@@ -33,6 +33,7 @@ Infotafel::Infotafel(QWidget* bildschirm, const QString& text) : QFrame(bildschi
 void Infotafel::zeige()
 {
     resize(kBreite, layout()->totalHeightForWidth(kBreite) + 2 * frameWidth());
+    parentWidget()->resize(parentWidget()->size().expandedTo(size()));
     move((parentWidget()->width() - width()) / 2, (parentWidget()->height() - height()) / 2);
     show();
     raise();

@@ -6,5 +6,6 @@
 class Infotafel final : public QFrame {
 public:
     Infotafel(QWidget* bildschirm, const QString& text);
+    /// Shows it in the middle of the screen, which grows if it is too small.
     void zeige();
 };

@@ -8,10 +8,6 @@
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 
-namespace {
-constexpr int kEinzug = 4; ///< pixels to the left of a row's text
-} // namespace
-
 Liste::Liste(QWidget* eltern, ListenModell::Eigenschaften eigenschaften) : Zeilenansicht(eltern), modell_(eigenschaften)
 {
     setFont(Stil::festeSchrift());
@@ -71,6 +67,12 @@ void Liste::waehle(int zeile, Qt::KeyboardModifiers tasten)
     modell_.SetListIndex(zeile);
     if (beiAuswahl)
         beiAuswahl();
+}
+
+void Liste::schalte(int zeile)
+{
+    if (modell_.MultiSelect())
+        waehle(zeile, Qt::ControlModifier);
 }
 
 void Liste::setzeAuswahl(int zeile)

@@ -7,6 +7,8 @@
 /// model; the view follows by itself.
 class Liste final : public Zeilenansicht {
 public:
+    static constexpr int kEinzug = 4; ///< pixels to the left of a row's text
+
     explicit Liste(QWidget* eltern, ListenModell::Eigenschaften eigenschaften = {});
 
     ListenModell& modell() { return modell_; }
@@ -27,6 +29,7 @@ protected:
     int zeilenbreite() const override { return breite_; }
     int fokuszeile() const override { return static_cast<int>(modell_.ListIndex()); }
     void waehle(int zeile, Qt::KeyboardModifiers tasten) override;
+    void schalte(int zeile) override;
 
 private:
     void waehleBereich(int zeile);

@@ -5,9 +5,30 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QTranslator>
 #include <QWidget>
+
+namespace {
+
+/// Fusion with more room beside the caption of a button.
+class Programmstil final : public QProxyStyle {
+public:
+    Programmstil() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+    QSize sizeFromContents(ContentsType art, const QStyleOption* option, const QSize& inhalt,
+                           const QWidget* feld) const override
+    {
+        const QSize platz = QProxyStyle::sizeFromContents(art, option, inhalt, feld);
+        return art == CT_PushButton ? platz.expandedTo(QSize(inhalt.width() + kKnopfrand, 0)) : platz;
+    }
+
+private:
+    static constexpr int kKnopfrand = 24;
+};
+
+} // namespace
 
 void Stil::richteEin(QApplication& programm)
 {
@@ -15,7 +36,7 @@ void Stil::richteEin(QApplication& programm)
     auto* uebersetzung = new QTranslator(&programm);
     if (uebersetzung->load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         programm.installTranslator(uebersetzung);
-    programm.setStyle(QStyleFactory::create("Fusion"));
+    programm.setStyle(new Programmstil);
     programm.setPalette(Farben::palette());
     QFont schrift;
     schrift.setFamilies({"Segoe UI", "Arial", "Liberation Sans"});

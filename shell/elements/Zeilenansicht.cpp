@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 Zeilenansicht::Zeilenansicht(QWidget* eltern) : QAbstractScrollArea(eltern)
 {
@@ -55,6 +56,8 @@ void Zeilenansicht::zeigeZeile(int zeile)
 
 void Zeilenansicht::gleicheAb()
 {
+    if (ruht())
+        return;
     verticalScrollBar()->setRange(0, std::max(0, zeilenzahl() - zeilenJeSeite()));
     verticalScrollBar()->setPageStep(zeilenJeSeite());
     horizontalScrollBar()->setRange(0, std::max(0, zeilenbreite() - viewport()->width()));
@@ -64,15 +67,18 @@ void Zeilenansicht::gleicheAb()
 
 void Zeilenansicht::erneuere()
 {
-    QApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    if (!std::exchange(erneuertSich_, true))
+        QApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
 }
 
 bool Zeilenansicht::event(QEvent* ereignis)
 {
     const bool getan = QAbstractScrollArea::event(ereignis);
     if (ereignis->type() == QEvent::LayoutRequest || ereignis->type() == QEvent::FontChange) {
+        const bool verlangt = std::exchange(erneuertSich_, false);
         gleicheAb();
-        viewport()->update();
+        if (verlangt || ereignis->type() == QEvent::FontChange) // a scroll bar that comes or goes asks for layout too
+            viewport()->update();
     }
     return getan;
 }
@@ -154,7 +160,7 @@ void Zeilenansicht::keyPressEvent(QKeyEvent* ereignis)
             geheZu(std::clamp(zielzeile(taste), 0, zeilenzahl() - 1), ereignis->modifiers() & ~Qt::KeypadModifier);
     } else if (taste == Qt::Key_Space && fokuszeile() >= 0) {
         schalte(fokuszeile());
-    } else if (taste == Qt::Key_Return && fokuszeile() >= 0 && beiDoppelklick) {
+    } else if ((taste == Qt::Key_Return || taste == Qt::Key_Enter) && fokuszeile() >= 0 && beiDoppelklick) {
         beiDoppelklick(fokuszeile());
     } else {
         QAbstractScrollArea::keyPressEvent(ereignis);

@@ -51,7 +51,10 @@ protected:
     /// The user presses Space on the focus row.
     virtual void schalte(int zeile) { Q_UNUSED(zeile) }
 
-    /// Asks for a repaint; the number of rows may have changed.
+    /// True while neither painting nor scroll bars follow what happens.
+    virtual bool ruht() const { return false; }
+
+    /// Asks for a repaint; the number of rows may have changed. Costs next to nothing while a repaint is due anyway.
     void erneuere();
 
     bool event(QEvent* ereignis) override;
@@ -68,4 +71,6 @@ private:
     int zeilenJeSeite() const;
     int zielzeile(int taste) const;
     void geheZu(int zeile, Qt::KeyboardModifiers tasten);
+
+    bool erneuertSich_ = false; ///< asked for, not yet done
 };

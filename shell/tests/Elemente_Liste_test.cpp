@@ -5,13 +5,13 @@
 #include "tools/drive/Buehnentest.h"
 #include "tools/drive/Eingabe.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
 #include <QScrollBar>
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
+#include <gmock/gmock.h>
 #include <set>
 
 namespace {
@@ -24,7 +24,8 @@ constexpr std::size_t kMillionen = 5'000'000;
 class Listenprobe final : public Bildschirm {
 public:
     Listenprobe(Umgebung& umgebung, ListenModell::Eigenschaften eigenschaften)
-        : Bildschirm(umgebung, "frmProbe", "Probe"), Liste1(liste("Liste1", eigenschaften))
+        : Bildschirm(umgebung, "frmProbe", "Probe"),
+          Liste1(liste("Liste1", eigenschaften))
     {
         Liste1->setzeSichtbar(10, 30);
         setzeInhalt(spalte({dehnbar(Liste1)}));
@@ -419,7 +420,8 @@ TEST_F(ElementListe, KuerzerGefuelltWaehrendSieUntenStehtFragtSieNieHinterDasEnd
     QCoreApplication::processEvents();
     gemalt();
     EXPECT_THAT(std::set<std::size_t>(gefragte.begin(), gefragte.end()), ElementsAre(0, 1, 2));
-    EXPECT_TRUE(istEinfarbig(gemalt(), liste.viewport()->rect().adjusted(0, 3 * liste.zeilenrechteck(0).height(), 0, 0)));
+    EXPECT_TRUE(
+        istEinfarbig(gemalt(), liste.viewport()->rect().adjusted(0, 3 * liste.zeilenrechteck(0).height(), 0, 0)));
 }
 
 TEST_F(ElementListe, HinterDemEndeIstNichts)

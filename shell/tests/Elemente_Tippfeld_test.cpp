@@ -3,6 +3,7 @@
 #include "tools/drive/Buehnentest.h"
 #include "tools/drive/Eingabe.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QLabel>
 #include <QMouseEvent>
@@ -17,7 +18,8 @@ using testing::IsEmpty;
 class Feldprobe final : public Bildschirm {
 public:
     Feldprobe(Umgebung& umgebung, Tippfeld7x7View::Art art)
-        : Bildschirm(umgebung, "frmProbe", "Probe"), feld(new Tippfeld7x7View("Zahl", art, this))
+        : Bildschirm(umgebung, "frmProbe", "Probe"),
+          feld(new Tippfeld7x7View("Zahl", art, this))
     {
         feld->setObjectName("Feld");
         setzeInhalt(spalte({feld}));
@@ -30,8 +32,7 @@ class ElementTippfeld : public Buehnentest {
 protected:
     Tippfeld7x7View& zeige(Tippfeld7x7View::Art art)
     {
-        buehne.bildschirme.registriere("frmProbe",
-                                       [art](Umgebung& u) { return std::make_unique<Feldprobe>(u, art); });
+        buehne.bildschirme.registriere("frmProbe", [art](Umgebung& u) { return std::make_unique<Feldprobe>(u, art); });
         oeffne("frmProbe");
         feld_ = buehne.bildschirme.lade<Feldprobe>("frmProbe").feld;
         feld_->beiKlick = [this](int zahl) { klicks.push_back(zahl); };
@@ -57,10 +58,7 @@ protected:
         return zahlen;
     }
 
-    QColor gemalterGrund(int zahl)
-    {
-        return feld_->findChild<QLabel*>(zelle(zahl))->grab().toImage().pixelColor(3, 3);
-    }
+    QColor gemalterGrund(int zahl) { return feld_->findChild<QLabel*>(zelle(zahl))->grab().toImage().pixelColor(3, 3); }
 
     void klickeZahlen(std::initializer_list<int> zahlen)
     {

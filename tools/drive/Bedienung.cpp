@@ -58,6 +58,31 @@ QList<int> gewaehlteZeilen(const Zeilenansicht& ansicht)
     return gewaehlt;
 }
 
+/// Where the mouse goes for a named control: to its middle, in a list to the chosen row.
+struct Mausziel {
+    explicit Mausziel(QWidget* ganzes) : feld(ganzes), ort(ganzes->rect().center())
+    {
+        if (const auto* rollend = qobject_cast<QAbstractScrollArea*>(ganzes)) {
+            feld = rollend->viewport();
+            ort = feld->rect().center();
+        }
+        auto* liste = dynamic_cast<Zeilenansicht*>(ganzes);
+        const QList<int> gewaehlt = liste ? gewaehlteZeilen(*liste) : QList<int>();
+        if (!gewaehlt.isEmpty())
+            ort = zeilenort(*liste, gewaehlt.first());
+    }
+
+    static QPoint zeilenort(Zeilenansicht& liste, int zeile)
+    {
+        constexpr int kEinzug = 4;
+        liste.zeigeZeile(zeile);
+        return {kEinzug, liste.zeilenrechteck(zeile).center().y()};
+    }
+
+    QWidget* feld;
+    QPoint ort;
+};
+
 } // namespace
 
 Bedienung::Bedienung(Buehne& buehne) : buehne_(buehne) {}
@@ -65,8 +90,9 @@ Bedienung::Bedienung(Buehne& buehne) : buehne_(buehne) {}
 Bildschirm* Bedienung::aktuell()
 {
     Bildschirm* bildschirm = buehne_.bildschirme.geladen(name_);
-    if (bildschirm && (bildschirm->isVisible() || bildschirm->laeuft()))
+    if (bildschirm && (bildschirm->isVisible() || bildschirm->laeuft() || istVerborgenBenannt_))
         return bildschirm;
+    istVerborgenBenannt_ = false;
     for (Bildschirm* anderer : buehne_.bildschirme.geladene()) {
         if (anderer->isVisible()) {
             name_ = anderer->name();
@@ -90,6 +116,7 @@ Antwort Bedienung::oeffne(const QString& bildschirm)
     if (!offen || !offen->isVisible())
         buehne_.bildschirme.oeffne(bildschirm);
     name_ = bildschirm;
+    istVerborgenBenannt_ = false;
     return {};
 }
 
@@ -120,9 +147,11 @@ Antwort Bedienung::oeffneAusMenue(const QString& bildschirm)
 
 Antwort Bedienung::benutze(const QString& bildschirm)
 {
-    if (!buehne_.bildschirme.geladen(bildschirm))
+    const Bildschirm* offen = buehne_.bildschirme.geladen(bildschirm);
+    if (!offen)
         return verweigert("nicht offen: " + bildschirm);
     name_ = bildschirm;
+    istVerborgenBenannt_ = !offen->isVisible();
     return {};
 }
 
@@ -130,6 +159,7 @@ Antwort Bedienung::schliesse()
 {
     if (Bildschirm* bildschirm = aktuell())
         bildschirm->schliesse();
+    istVerborgenBenannt_ = false;
     aktuell();
     return {};
 }
@@ -198,16 +228,20 @@ Antwort Bedienung::klicke(const QString& name)
         return {};
     }
     Antwort antwort;
-    if (QWidget* feld = bedienbar(name, antwort))
-        Eingabe::klicke(feld, feld->rect().center());
+    if (QWidget* feld = bedienbar(name, antwort)) {
+        const Mausziel ziel(feld);
+        Eingabe::klicke(ziel.feld, ziel.ort);
+    }
     return antwort;
 }
 
 Antwort Bedienung::doppelklicke(const QString& name)
 {
     Antwort antwort;
-    if (QWidget* feld = bedienbar(name, antwort))
-        Eingabe::doppelklicke(feld, feld->rect().center());
+    if (QWidget* feld = bedienbar(name, antwort)) {
+        const Mausziel ziel(feld);
+        Eingabe::doppelklicke(ziel.feld, ziel.ort);
+    }
     return antwort;
 }
 
@@ -216,23 +250,29 @@ Antwort Bedienung::ueberfahre(const QString& name)
     auto* feld = qobject_cast<QWidget*>(finde(name));
     if (!feld || !feld->isVisible())
         return verweigert(feld ? name + " ist verborgen" : "kein Feld " + name);
-    Eingabe::ueberfahre(feld, feld->rect().center());
+    const auto* rollend = qobject_cast<QAbstractScrollArea*>(feld);
+    QWidget* flaeche = rollend ? rollend->viewport() : feld;
+    Eingabe::ueberfahre(flaeche, Eingabe::freieStelle(flaeche));
     return {};
 }
 
 Antwort Bedienung::druecke(const QString& name)
 {
     Antwort antwort;
-    if (QWidget* feld = bedienbar(name, antwort))
-        Eingabe::druecke(feld, feld->rect().center());
+    if (QWidget* feld = bedienbar(name, antwort)) {
+        const Mausziel ziel(feld);
+        Eingabe::druecke(ziel.feld, ziel.ort);
+    }
     return antwort;
 }
 
 Antwort Bedienung::lasseLos(const QString& name)
 {
     Antwort antwort;
-    if (QWidget* feld = bedienbar(name, antwort))
-        Eingabe::lasseLos(feld, feld->rect().center());
+    if (QWidget* feld = bedienbar(name, antwort)) {
+        const Mausziel ziel(feld);
+        Eingabe::lasseLos(ziel.feld, ziel.ort);
+    }
     return antwort;
 }
 
@@ -263,9 +303,8 @@ Antwort Bedienung::waehle(const QString& name, const QList<int>& zeilen)
         const int zeile = zeilen[i];
         if (zeile < 0 || zeile >= liste->zeilenzahl())
             return verweigert(QString("%1 hat keine Zeile %2").arg(name).arg(zeile));
-        liste->zeigeZeile(zeile);
-        const QPoint ort(4, liste->zeilenrechteck(zeile).center().y());
-        Eingabe::klicke(liste->viewport(), ort, i == 0 ? Qt::NoModifier : Qt::ControlModifier);
+        Eingabe::klicke(liste->viewport(), Mausziel::zeilenort(*liste, zeile),
+                        i == 0 ? Qt::NoModifier : Qt::ControlModifier);
     }
     return antwort;
 }
@@ -287,8 +326,11 @@ Antwort Bedienung::text(const QString& name)
 
 Antwort Bedienung::zustand(const QString& name)
 {
-    const auto* feld = qobject_cast<QWidget*>(finde(name));
-    return feld ? Antwort{{zustandVon(feld)}, {}} : verweigert("kein Feld " + name);
+    const QObject* feld = finde(name);
+    if (const auto* eintrag = qobject_cast<const QAction*>(feld))
+        return {{zustandVon(eintrag, offenesMenue(eintrag))}, {}};
+    const auto* sichtbares = qobject_cast<const QWidget*>(feld);
+    return sichtbares ? Antwort{{zustandVon(sichtbares)}, {}} : verweigert("kein Feld " + name);
 }
 
 Antwort Bedienung::anzahl(const QString& name)

@@ -24,7 +24,7 @@ class Bedienung {
 public:
     explicit Bedienung(Buehne& buehne);
 
-    /// The screen that the operations go to: the one opened last, and after it is closed the one that is shown.
+    /// The screen that the operations go to: the one opened or named last, and when it goes the one that is shown.
     Bildschirm* aktuell();
 
     Antwort oeffne(const QString& bildschirm);
@@ -61,4 +61,5 @@ private:
 
     Buehne& buehne_;
     QString name_ = "frmLSTART";
+    bool istVerborgenBenannt_ = false; ///< a hidden screen was named, and stays the current one
 };

@@ -82,8 +82,9 @@ bool PdfDrucker::drucke(const QString& titel, const std::function<void(QPainter&
 
 bool GemerkterOeffner::oeffne(const QString& dateiOderAdresse)
 {
-    geoeffnet_.push_back(dateiOderAdresse);
-    return true;
+    if (!scheitert)
+        geoeffnet_.push_back(dateiOderAdresse);
+    return !scheitert;
 }
 
 QStringList GemerkterOeffner::entnehme()

@@ -65,6 +65,7 @@ public:
     bool oeffne(const QString& dateiOderAdresse) override;
     /// What was handed over since the last call.
     QStringList entnehme();
+    bool scheitert = false; ///< the system finds nothing to open a file with
 
 private:
     QStringList geoeffnet_;

@@ -7,8 +7,14 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <limits>
 #include <optional>
 #include <vector>
+
+/// Offers a key to the shortcuts first, as the window system's own keys are. True if one has taken it. Qt exports it
+/// for its own test library.
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* ziel, ulong zeit, int taste, Qt::KeyboardModifiers tasten,
+                                               const QString& text = {}, bool wiederholt = false, ushort anzahl = 1);
 
 namespace {
 
@@ -21,8 +27,10 @@ void maus(QWidget* feld, QEvent::Type art, QPoint ort, Qt::MouseButton knopf, Qt
 
 void taste(QWidget* feld, int schluessel, Qt::KeyboardModifiers tasten, const QString& text)
 {
+    if (qt_sendShortcutOverrideEvent(feld, 0, schluessel, tasten, text))
+        return;
     const QPointer<QWidget> noch(feld);
-    for (const auto art : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+    for (const auto art : {QEvent::KeyPress, QEvent::KeyRelease}) {
         if (!noch)
             return;
         QKeyEvent ereignis(art, schluessel, tasten, text);
@@ -59,6 +67,28 @@ QString textVon(QKeyCombination taste)
 }
 
 } // namespace
+
+QPoint Eingabe::freieStelle(const QWidget* feld)
+{
+    constexpr int kRand = 2;
+    constexpr int kSchritte = 16;
+    const QPoint mitte = feld->rect().center();
+    if (!feld->childAt(mitte))
+        return mitte;
+    const QRect innen = feld->rect().adjusted(kRand, kRand, -kRand, -kRand);
+    QPoint beste = mitte;
+    int abstand = std::numeric_limits<int>::max();
+    for (int i = 0; i <= kSchritte * (kSchritte + 2); ++i) {
+        const QPoint stelle = innen.topLeft() + QPoint(innen.width() * (i % (kSchritte + 1)) / kSchritte,
+                                                       innen.height() * (i / (kSchritte + 1)) / kSchritte);
+        const int weg = (stelle - mitte).manhattanLength();
+        if (weg < abstand && feld->rect().contains(stelle) && !feld->childAt(stelle)) {
+            abstand = weg;
+            beste = stelle;
+        }
+    }
+    return beste;
+}
 
 void Eingabe::druecke(QWidget* feld, QPoint ort, Qt::KeyboardModifiers tasten)
 {
@@ -99,17 +129,18 @@ void Eingabe::ueberfahre(QWidget* feld, QPoint ort)
 
 void Eingabe::tippe(QWidget* feld, const QString& tasten)
 {
-    const QPointer<QWidget> noch(feld);
+    const QPointer<QWidget> fenster(feld->window());
     feld->setFocus(Qt::OtherFocusReason);
+    // Every key goes to where the one before has moved the focus.
+    const auto druecke = [&fenster](int schluessel, Qt::KeyboardModifiers mit, const QString& text) {
+        if (fenster && fenster->focusWidget())
+            taste(fenster->focusWidget(), schluessel, mit, text);
+    };
     if (const auto namen = tastennamen(tasten)) {
-        for (const QKeyCombination& kombination : *namen) {
-            if (noch)
-                taste(feld, kombination.key(), kombination.keyboardModifiers(), textVon(kombination));
-        }
+        for (const QKeyCombination& kombination : *namen)
+            druecke(kombination.key(), kombination.keyboardModifiers(), textVon(kombination));
         return;
     }
-    for (const QChar zeichen : tasten) {
-        if (noch)
-            taste(feld, zeichen.toUpper().unicode(), Qt::NoModifier, zeichen);
-    }
+    for (const QChar zeichen : tasten)
+        druecke(zeichen.toUpper().unicode(), Qt::NoModifier, zeichen);
 }

@@ -6,14 +6,18 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTextEdit>
+
+#include <optional>
 
 namespace {
 
@@ -73,19 +77,51 @@ QString setzeRegler(QAbstractSlider* regler, const QString& text)
     return {};
 }
 
-/// The nearest widget that paints a background of its own.
-const QWidget* grundVon(const QWidget* feld)
+/// The roles of the colours that a control is painted in.
+struct Farbrollen {
+    QPalette::ColorRole grund;
+    QPalette::ColorRole schrift;
+};
+
+/// Those of a control that always paints a background of its own.
+std::optional<Farbrollen> eigeneRollen(const QWidget* feld)
 {
-    const QWidget* grund = feld;
-    while (grund->parentWidget() && !grund->isWindow() && !grund->autoFillBackground() &&
-           !qobject_cast<const QLineEdit*>(grund) && !qobject_cast<const QAbstractScrollArea*>(grund))
-        grund = grund->parentWidget();
-    return grund;
+    const auto* kombi = qobject_cast<const QComboBox*>(feld);
+    if (qobject_cast<const QLineEdit*>(feld) || qobject_cast<const QAbstractSpinBox*>(feld) ||
+        qobject_cast<const QAbstractScrollArea*>(feld) || (kombi && kombi->isEditable()))
+        return Farbrollen{QPalette::Base, QPalette::Text};
+    if (qobject_cast<const QPushButton*>(feld) || kombi)
+        return Farbrollen{QPalette::Button, QPalette::ButtonText};
+    return std::nullopt;
+}
+
+/// The colour behind a control: its own, or that of the nearest parent that paints one.
+QColor grundVon(const QWidget* feld)
+{
+    for (const QWidget* grund = feld;; grund = grund->parentWidget()) {
+        if (const auto rollen = eigeneRollen(grund))
+            return grund->palette().color(rollen->grund);
+        if (!grund->parentWidget() || grund->isWindow() || grund->autoFillBackground())
+            return grund->palette().color(grund->backgroundRole());
+    }
+}
+
+QColor schriftVon(const QWidget* feld)
+{
+    const auto rollen = eigeneRollen(feld);
+    return feld->palette().color(rollen ? rollen->schrift : feld->foregroundRole());
 }
 
 QString wahr(bool wert)
 {
     return wert ? "true" : "false";
+}
+
+QString zustandszeile(bool sichtbar, bool bedienbar, bool gesetzt, const QFont& schriftart, const QColor& grund,
+                      const QColor& schrift)
+{
+    return QString("visible=%1 enabled=%2 checked=%3 bold=%4 back=%5 fore=%6")
+        .arg(wahr(sichtbar), wahr(bedienbar), wahr(gesetzt), wahr(schriftart.bold()), grund.name(), schrift.name());
 }
 
 } // namespace
@@ -139,17 +175,24 @@ QString setzeFeld(QWidget* feld, const QString& text)
         lang->setPlainText(text);
         return {};
     }
+    if (auto* klartext = qobject_cast<QPlainTextEdit*>(feld); klartext && !klartext->isReadOnly()) {
+        klartext->setPlainText(text);
+        return {};
+    }
     return "nimmt keine Eingabe";
 }
 
 QString zustandVon(const QWidget* feld)
 {
     const auto* knopf = qobject_cast<const QAbstractButton*>(feld);
-    const QWidget* grund = grundVon(feld);
-    const bool liste = qobject_cast<const QAbstractScrollArea*>(grund) || qobject_cast<const QLineEdit*>(grund);
-    const QColor hinten = grund->palette().color(liste ? QPalette::Base : grund->backgroundRole());
-    const QColor vorn = feld->palette().color(feld->foregroundRole());
-    return QString("visible=%1 enabled=%2 checked=%3 bold=%4 back=%5 fore=%6")
-        .arg(wahr(feld->isVisible()), wahr(feld->isEnabled()), wahr(knopf && knopf->isChecked()),
-             wahr(feld->font().bold()), hinten.name(), vorn.name());
+    return zustandszeile(feld->isVisible(), feld->isEnabled(), knopf && knopf->isChecked(), feld->font(),
+                         grundVon(feld), schriftVon(feld));
+}
+
+QString zustandVon(const QAction* eintrag, bool zuSehen)
+{
+    const QPalette farben = QApplication::palette("QMenu");
+    const auto gruppe = eintrag->isEnabled() ? QPalette::Active : QPalette::Disabled;
+    return zustandszeile(zuSehen && eintrag->isVisible(), eintrag->isEnabled(), eintrag->isChecked(), eintrag->font(),
+                         farben.color(gruppe, QPalette::Window), farben.color(gruppe, QPalette::WindowText));
 }

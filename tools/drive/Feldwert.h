@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QAction;
 class QObject;
 class QWidget;
 
@@ -13,3 +14,5 @@ QString setzeFeld(QWidget* feld, const QString& text);
 
 /// "visible=true enabled=true checked=false bold=false back=#ffffff fore=#000000", as seen.
 QString zustandVon(const QWidget* feld);
+/// The same of an entry of a popup menu; `zuSehen` is true while the menu is open.
+QString zustandVon(const QAction* eintrag, bool zuSehen);

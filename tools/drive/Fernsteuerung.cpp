@@ -2,7 +2,8 @@
 
 #include "shell/elements/Bildschirm.h"
 
-#include <QDateTime>
+#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -20,6 +21,19 @@ std::pair<QString, QString> teile(const QString& zeile)
 {
     const qsizetype luecke = zeile.indexOf(' ');
     return luecke < 0 ? std::pair(zeile, QString()) : std::pair(zeile.left(luecke), zeile.mid(luecke + 1));
+}
+
+/// A number of rows or milliseconds, from 0 on.
+std::optional<int> zahl(const QString& text)
+{
+    bool istZahl = false;
+    const int wert = text.toInt(&istZahl);
+    return istZahl && wert >= 0 ? std::optional(wert) : std::nullopt;
+}
+
+double millisekunden(const QElapsedTimer& stoppuhr)
+{
+    return static_cast<double>(stoppuhr.nsecsElapsed()) / 1e6;
 }
 
 bool istAntwort(const QString& wort)
@@ -40,6 +54,11 @@ Fernsteuerung::Fernsteuerung(Buehne& buehne, std::function<void(const QString&)>
     connect(&takt_, &QTimer::timeout, this, [this] { arbeite(); });
     buehne_.pumpe.beiZug = [this] { arbeite(); };
     takt_.start();
+}
+
+Fernsteuerung::~Fernsteuerung()
+{
+    buehne_.pumpe.beiZug = nullptr;
 }
 
 std::map<QString, Fernsteuerung::Befehl> Fernsteuerung::befehle()
@@ -68,10 +87,7 @@ std::map<QString, Fernsteuerung::Befehl> Fernsteuerung::befehle()
         {"count", [&b](auto& rest) { return b.anzahl(rest); }},
         {"rows", [this](auto& rest) { return zeilen(rest); }},
         {"selected", [&b](auto& rest) { return b.gewaehlte(rest); }},
-        {"colors",
-         [&b, mitText](auto& rest) {
-             return mitText(rest, [&b](auto& n, auto& t) { return b.farben(n, t.toInt()); });
-         }},
+        {"colors", [this](auto& rest) { return farben(rest); }},
         {"items", [&b](auto& rest) { return b.eintraege(rest); }},
         {"title", [&b](auto&) { return b.titel(); }},
         {"boxes", [this](auto&) { return zeigeBoxen(); }},
@@ -123,25 +139,41 @@ bool Fernsteuerung::wartet()
 {
     if (wartezeit_ < 0 || seitWarten_.elapsed() >= wartezeit_)
         return false;
-    if (!bisRuhe_)
-        return true;
-    Bildschirm* bildschirm = bedienung_.aktuell();
-    return bildschirm && bildschirm->laeuft();
+    return !bisRuhe_ || !istRuhe();
+}
+
+/// True when nothing runs on the current screen and no closed one is still unwinding.
+bool Fernsteuerung::istRuhe()
+{
+    const Bildschirm* bildschirm = bedienung_.aktuell();
+    return !istSchliessen() && !(bildschirm && bildschirm->laeuft());
+}
+
+bool Fernsteuerung::istSchliessen() const
+{
+    const std::vector<Bildschirm*> geladene = buehne_.bildschirme.geladene();
+    return std::ranges::any_of(geladene, [](const Bildschirm* bildschirm) { return bildschirm->schliesst(); });
 }
 
 void Fernsteuerung::arbeite()
 {
-    while (!endet_ && !wartet()) {
+    if (endet_ || wartet())
+        return;
+    if (wartezeit_ >= 0) {
         wartezeit_ = -1;
-        if (offen_.empty()) {
-            if (eingabeZuEnde_)
-                ende();
-            return;
-        }
-        const QString zeile = offen_.front();
-        offen_.pop_front();
-        fuehreAus(zeile);
+        letzteDauer_ = std::max(millisekunden(seitWarten_), bisRuhe_ ? letzteDauer_ : 0);
     }
+    if (offen_.empty()) {
+        if (eingabeZuEnde_)
+            ende();
+        return;
+    }
+    const QString zeile = offen_.front();
+    offen_.pop_front();
+    // The next one comes with the next turn of the event loop, as a user's next click does.
+    QMetaObject::invokeMethod(
+        this, [this] { arbeite(); }, Qt::QueuedConnection);
+    fuehreAus(zeile);
 }
 
 void Fernsteuerung::fuehreAus(const QString& zeile)
@@ -154,9 +186,11 @@ void Fernsteuerung::fuehreAus(const QString& zeile)
     QElapsedTimer stoppuhr;
     stoppuhr.start();
     const Antwort antwort = befehl == befehle_.end() ? Antwort{{}, "unbekannter Befehl " + wort} : befehl->second(rest);
-    if (wort != "time")
-        letzteDauer_ = static_cast<double>(stoppuhr.nsecsElapsed()) / 1e6;
+    if (wort != "time" && wort != "wait-idle")
+        letzteDauer_ = millisekunden(stoppuhr);
     gibAus(antwort);
+    if (wartezeit_ < 0 && istSchliessen())
+        warteAufRuhe({});
 }
 
 void Fernsteuerung::gibAus(const Antwort& antwort)
@@ -177,18 +211,23 @@ void Fernsteuerung::ende()
         beiEnde();
 }
 
-Antwort Fernsteuerung::warte(const QString& millisekunden)
+Antwort Fernsteuerung::warte(const QString& dauer)
 {
-    wartezeit_ = millisekunden.toInt();
-    bisRuhe_ = false;
-    seitWarten_.start();
-    return {};
+    return beginneWarten(dauer, false);
 }
 
-Antwort Fernsteuerung::warteAufRuhe(const QString& millisekunden)
+Antwort Fernsteuerung::warteAufRuhe(const QString& dauer)
 {
-    wartezeit_ = millisekunden.isEmpty() ? kRuhewartezeit : millisekunden.toInt();
-    bisRuhe_ = true;
+    return beginneWarten(dauer.isEmpty() ? QString::number(kRuhewartezeit) : dauer, true);
+}
+
+Antwort Fernsteuerung::beginneWarten(const QString& dauer, bool bisRuhe)
+{
+    const auto wert = zahl(dauer);
+    if (!wert)
+        return {{}, "keine Dauer " + dauer};
+    wartezeit_ = *wert;
+    bisRuhe_ = bisRuhe;
     seitWarten_.start();
     return {};
 }
@@ -228,20 +267,29 @@ Antwort Fernsteuerung::antworte(const QString& werte)
 Antwort Fernsteuerung::zeilen(const QString& rest)
 {
     const QStringList worte = rest.split(' ', Qt::SkipEmptyParts);
-    const int ab = worte.size() > 1 ? worte[1].toInt() : 0;
-    const int hoechstens = worte.size() > 2 ? worte[2].toInt() : std::numeric_limits<int>::max();
-    return bedienung_.zeilen(worte.value(0), ab, hoechstens);
+    const auto ab = zahl(worte.value(1, "0"));
+    const auto hoechstens = zahl(worte.value(2, QString::number(std::numeric_limits<int>::max())));
+    if (!ab || !hoechstens)
+        return {{}, "keine Zeilen " + QStringList(worte.mid(1)).join(' ')};
+    return bedienung_.zeilen(worte.value(0), *ab, *hoechstens);
+}
+
+Antwort Fernsteuerung::farben(const QString& rest)
+{
+    const auto [name, nummer] = teile(rest);
+    const auto zeile = zahl(nummer);
+    return zeile ? bedienung_.farben(name, *zeile) : Antwort{{}, "keine Zeile " + nummer};
 }
 
 Antwort Fernsteuerung::waehle(const QString& rest)
 {
     const auto [name, nummern] = teile(rest);
     QList<int> zeilen;
-    for (const QString& nummer : nummern.split(',', Qt::SkipEmptyParts)) {
-        bool zahl = false;
-        zeilen << nummer.trimmed().toInt(&zahl);
-        if (!zahl)
+    for (const QString& nummer : nummern.split(',')) {
+        const auto zeile = zahl(nummer);
+        if (!zeile)
             return {{}, "keine Zeile " + nummer};
+        zeilen << *zeile;
     }
     return bedienung_.waehle(name, zeilen);
 }
@@ -253,6 +301,10 @@ Antwort Fernsteuerung::stelleUhr(const QString& zeit)
 
 Antwort Fernsteuerung::stelleZufall(const QString& saat)
 {
-    buehne_.zufall.stelle(saat.toULongLong());
+    bool istZahl = false;
+    const qulonglong wert = saat.toULongLong(&istZahl);
+    if (!istZahl)
+        return {{}, "keine Saat " + saat};
+    buehne_.zufall.stelle(wert);
     return {};
 }

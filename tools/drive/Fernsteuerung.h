@@ -15,6 +15,7 @@ class Fernsteuerung final : public QObject {
 public:
     /// `ausgabe` gets every line of an answer, without its line end.
     Fernsteuerung(Buehne& buehne, std::function<void(const QString&)> ausgabe);
+    ~Fernsteuerung() override;
 
     void nimm(const QString& zeile);
     /// No further line will come: the program ends behind the last one.
@@ -32,14 +33,18 @@ private:
     void fuehreAus(const QString& zeile);
     void gibAus(const Antwort& antwort);
     bool wartet();
+    bool istRuhe();
+    bool istSchliessen() const;
     void ende();
 
-    Antwort warte(const QString& millisekunden);
-    Antwort warteAufRuhe(const QString& millisekunden);
+    Antwort warte(const QString& dauer);
+    Antwort warteAufRuhe(const QString& dauer);
+    Antwort beginneWarten(const QString& dauer, bool bisRuhe);
     Antwort bildschirme() const;
     Antwort zeigeBoxen();
     Antwort antworte(const QString& werte);
     Antwort zeilen(const QString& rest);
+    Antwort farben(const QString& rest);
     Antwort waehle(const QString& rest);
     Antwort stelleUhr(const QString& zeit);
     Antwort stelleZufall(const QString& saat);
@@ -53,7 +58,7 @@ private:
     QElapsedTimer seitWarten_;
     qint64 wartezeit_ = -1; ///< milliseconds; -1: nothing is waited for
     bool bisRuhe_ = false;
-    double letzteDauer_ = 0; ///< milliseconds
+    double letzteDauer_ = 0; ///< milliseconds, of a command with the wait for its end
     bool missglueckt_ = false;
     bool endet_ = false;
     bool eingabeZuEnde_ = false;

@@ -67,8 +67,14 @@ int main(int anzahl, char** argumente)
         std::fputs("--clock: keine Zeit\n", stderr);
         return 2;
     }
-    if (!optionen->saat.isEmpty())
-        buehne.zufall.stelle(optionen->saat.toULongLong());
+    if (!optionen->saat.isEmpty()) {
+        bool istZahl = false;
+        buehne.zufall.stelle(optionen->saat.toULongLong(&istZahl));
+        if (!istZahl) {
+            std::fputs("--seed: keine Saat\n", stderr);
+            return 2;
+        }
+    }
 
     Fernsteuerung steuerung(buehne, gibAus);
     std::thread leser([&steuerung] { leseEingabe(steuerung); });

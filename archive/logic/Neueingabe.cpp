@@ -1,0 +1,68 @@
+#include "archive/logic/Neueingabe.h"
+
+#include "shell/logic/Format.h"
+
+namespace {
+
+constexpr std::int32_t kLetzteSpielwoche = 53;
+
+/// "2024,31,03,12,24,33,41,49".
+std::string anfang(const NeueZiehung& ziehung)
+{
+    std::string satz = Format(ziehung.jjjj, "0000") + "," + Format(ziehung.sw, "00");
+    for (const std::int32_t zahl : ziehung.zahlen)
+        satz += "," + Format(zahl, "00");
+    return satz;
+}
+
+std::string_view kuerzel(std::int16_t spielart)
+{
+    if (istSamstag(spielart))
+        return "Sa";
+    return spielart == Mittwochslotto ? "Mi" : "M(B)";
+}
+
+} // namespace
+
+Vorschlag naechsteZiehung(const ZiehungsArchiv& archiv)
+{
+    const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
+    if (archiv.sw[letzte] >= kLetzteSpielwoche)
+        return {archiv.jjjj[letzte] + 1, 1};
+    return {archiv.jjjj[letzte], archiv.sw[letzte] + 1};
+}
+
+std::string neuerDatensatz(const NeueZiehung& ziehung)
+{
+    return anfang(ziehung) + ",00," + Format(ziehung.superzahl, "0");
+}
+
+std::string anzeigeform(const NeueZiehung& ziehung)
+{
+    return anfang(ziehung) + "  SZ:" + Format(ziehung.superzahl, "0");
+}
+
+std::string sicherungszeile(const NeueZiehung& ziehung, std::int16_t spielart, const std::string& datum)
+{
+    return neuerDatensatz(ziehung) + "," + std::string(kuerzel(spielart)) + "," + datum;
+}
+
+std::string zusatzzahlText(const ZiehungsArchiv& archiv, std::size_t nr)
+{
+    return archiv.zz[nr] == 0 ? "-" : Format(archiv.zz[nr], "@@");
+}
+
+std::string superzahlText(const ZiehungsArchiv& archiv, std::size_t nr)
+{
+    const std::int32_t beginn = istSamstag(archiv.Spielart) ? kSuperzahlBeginnSamstag : kSuperzahlBeginnMittwoch;
+    return static_cast<std::int32_t>(nr) < beginn ? "-" : Format(archiv.s[nr], "@");
+}
+
+std::string listenzeile(const ZiehungsArchiv& archiv, std::size_t nr)
+{
+    std::string zeile = Format(nr, "0000") + "    " + archiv.Datum[nr] + " " + jahrUndWoche(archiv, nr) + " ";
+    for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
+        zeile += " " + Format(zahl, "00");
+    const std::string zusatzzahl = archiv.zz[nr] == 0 ? " -" : std::to_string(archiv.zz[nr]);
+    return zeile + "   " + zusatzzahl + "   " + superzahlText(archiv, nr);
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "archive/logic/ZiehungsArchiv.h"
+#include "shell/logic/Meldung.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+/// What a start button of the online update fetches; the values are the indices of the buttons.
+enum class Onlineaufgabe {
+    Zip = 0,      ///< all Ziehungsdateien in one archive
+    Samstag = 1,  ///< "Salotto.dat"
+    Mittwoch = 2, ///< "Malotto.dat"
+};
+
+enum class Onlineausgang {
+    KeineNeue,   ///< nothing has taken the file's place; what came under another name or for another folder lies there
+    Abgewiesen,  ///< the new file has fewer draws than the old one or none, or could not be put in place
+    Uebernommen, ///< the new file lies in its place
+};
+
+/// The Spielart of a task; 0 for the ZIP archive.
+std::int16_t spielartVon(Onlineaufgabe aufgabe);
+
+/// Keeps the user's file safe around one transfer. The new file is received in a folder of its own inside the target
+/// folder and looked at there; only then it takes the old one's place, in one step. At every moment the file lies under
+/// its name, with its old content or with the new one.
+class Onlineaktualisierung {
+public:
+    /// `ordner` is the target folder, which exists.
+    Onlineaktualisierung(Onlineaufgabe aufgabe, std::filesystem::path programmVerzeichnis,
+                         std::filesystem::path ordner);
+    Onlineaktualisierung(const Onlineaktualisierung&) = delete;
+    Onlineaktualisierung& operator=(const Onlineaktualisierung&) = delete;
+    /// Removes what is left of the transfer.
+    ~Onlineaktualisierung();
+
+    /// Counts the draws of the present file, copies it, and makes the folder that receives. What a run has left behind
+    /// that did not come to its end is removed. False if the target folder cannot be written; nothing has changed then.
+    bool beginne();
+
+    /// The folder for the transfer, with a trailing separator.
+    std::string empfangsordner() const;
+
+    /// Looks at what has come and brings the files in their final state. A Ziehungsdatei is accepted if it can be read,
+    /// has a draw and no fewer than the old one; its old content then stays as "<name>.alt". Without a new file the
+    /// copy goes away again, or takes the place of the file if that was missing from the beginning.
+    Onlineausgang schliesseAb();
+
+private:
+    std::filesystem::path empfangene() const;
+    bool istEigene(const std::filesystem::path& neue) const;
+    Onlineausgang lege(const std::filesystem::path& neue);
+    Onlineausgang legeZip(const std::filesystem::path& neue);
+    Onlineausgang legeZiehungsdatei(const std::filesystem::path& neue);
+    void stelleHer() const;
+
+    Onlineaufgabe aufgabe_;
+    std::filesystem::path programm_;
+    std::filesystem::path ordner_;
+    std::filesystem::path empfang_; ///< empty until `beginne`
+    std::int32_t oldCount_ = 0;
+    bool kopiert_ = false;
+};
+
+/// The number of draws that the load of a Ziehungsdatei gives; 0 if it is missing or cannot be read.
+std::int32_t zaehleZiehungen(const std::filesystem::path& ordner, std::int16_t spielart);
+
+/// True if the Ziehungsdatei of that Spielart exists.
+bool gibtZiehungsdatei(const std::filesystem::path& ordner, std::int16_t spielart);
+
+/// The message about the last draw of a freshly loaded archive with at least one draw.
+Meldung erfolgsmeldung(const ZiehungsArchiv& archiv);
+
+/// The message about a rejected file.
+Meldung abweisung();
+
+/// What the button "Hilfe" tells.
+Meldung downloadHilfe();

@@ -1,0 +1,390 @@
+#include "archive/screens/frmAnzeige.h"
+
+#include "archive/screens/AnzeigeTexte.h"
+#include "archive/screens/Editor.h"
+#include "archive/screens/Ziehungsspeicher.h"
+#include "shell/elements/Lauf.h"
+#include "shell/elements/Liste.h"
+#include "shell/elements/Stil.h"
+#include "shell/elements/Tippfeld7x7View.h"
+#include "shell/elements/Utf8.h"
+#include "shell/logic/Format.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextEdit>
+
+namespace {
+
+constexpr auto kTitel = "Neue Ziehungen eingeben (Aktualisieren), gespeicherte Ziehungen anzeigen.";
+constexpr int kJahreZurWahl = 101;
+
+QString spielname(std::int16_t spielart)
+{
+    if (istSamstag(spielart))
+        return "SAMSTAGSLOTTO 6 aus 49";
+    return spielart == Mittwochslotto ? "MITTWOCHSLOTTO 6 aus 49" : "MITTWOCHSLOTTO(B) 6 aus 49";
+}
+
+QString zweistellig(int zahl)
+{
+    return qt(Format(zahl, "00"));
+}
+
+QString zahlInZwei(std::int32_t zahl)
+{
+    return qt(Format(zahl, "@@"));
+}
+
+} // namespace
+
+frmAnzeige::frmAnzeige(Umgebung& umgebung) : Bildschirm(umgebung, "frmAnzeige", kTitel)
+{
+    baueAnzeige();
+    baueEingabe();
+    baueKnoepfe();
+
+    // clang-format off
+    setzeInhalt(spalte({
+        zeile({
+            dehnbar(spalte({Rahmen2, dehnbar(Rahmen3)})),
+            Rahmen1,
+            Frame1,
+        }),
+        zeile({fEditor, luecke(), Befehl5, Befehl2, Befehl1}),
+    }));
+    // clang-format on
+    verbinde();
+}
+
+void frmAnzeige::baueAnzeige()
+{
+    static const QStringList kKoepfe{"Jahr", "SW", "Z1", "Z2", "Z3", "Z4", "Z5", "Z6", "ZZ", "SZ"};
+    Bloecke felder;
+    for (std::size_t i = 0; i < Texte.size(); ++i) {
+        const QString nummer = QString::number(i + 1);
+        Texte[i] = textfeld("Text" + nummer);
+        Texte[i]->setReadOnly(true);
+        Texte[i]->setAlignment(Qt::AlignCenter);
+        Texte[i]->setFixedWidth(Texte[i]->fontMetrics().horizontalAdvance("000000"));
+        QLabel* kopf = bezeichnung("lblText" + nummer, kKoepfe[static_cast<qsizetype>(i)]);
+        kopf->setAlignment(Qt::AlignCenter);
+        felder.push_back(eng(spalte({kopf, Texte[i]})));
+    }
+    felder.push_back(luecke());
+    HBildlauf1 = new QScrollBar(Qt::Horizontal, this);
+    HBildlauf1->setObjectName("HBildlauf1");
+    HBildlauf1->setFocusPolicy(Qt::StrongFocus);
+    bezeichnung23 = bezeichnung("bezeichnung23");
+    lblDate = bezeichnung("lblDate");
+    chkTippfeld = kontroll("chkTippfeld", "Das Tippmuster beim Scrollen im Tippfeld anzeigen?");
+    Rahmen2 = rahmen("Rahmen2", "Die schon gespeicherten Ziehungen anzeigen",
+                     spalte({zeile({bezeichnung23, luecke(), lblDate}), zeile(felder), HBildlauf1, chkTippfeld}));
+
+    Bezeichnung24 = listenkopf("Bezeichnung24", "Zieh.Nr.  Datum         JJJJ/SW   Gewinnzahlen       ZZ   SZ");
+    Liste1 = liste("Liste1");
+    Liste1->setzeSichtbar(12, 66);
+    Befehl12 = befehl("Befehl12", "Datei erzeugen");
+    Rahmen3 = rahmen("Rahmen3", "Die schon gespeicherten Ziehungen in Listenform",
+                     spalte({Bezeichnung24, dehnbar(Liste1), zeile({luecke(), Befehl12})}));
+}
+
+void frmAnzeige::baueEingabe()
+{
+    Label6 = new Tippfeld7x7View("Label6", Tippfeld7x7View::Art::FreieEingabe, this);
+    Bloecke zahlen;
+    const auto zahlenfeld = [this, &zahlen](const QString& kopf, QLabel* feld) {
+        feld->setAlignment(Qt::AlignCenter);
+        feld->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        feld->setMinimumWidth(30);
+        zahlen.push_back(eng(spalte({bezeichnung("lblKopf" + kopf, kopf), feld})));
+    };
+    feld(lblZ, "lblZ", ab(1));
+    for (std::size_t i = 0; i < lblZ.size(); ++i)
+        zahlenfeld(QString("Z%1").arg(i + 1), lblZ[i]);
+    lblSZ = bezeichnung("lblSZ");
+    zahlenfeld("SZ", lblSZ);
+
+    cmbSZ = kombi("cmbSZ");
+    for (int superzahl = 0; superzahl <= 9; ++superzahl)
+        cmbSZ->addItem(QString::number(superzahl));
+    cmbSZ->setCurrentIndex(-1);
+    Kombi1 = kombi("Kombi1");
+    Kombi1->setEditable(true);
+    Kombi2 = kombi("Kombi2");
+    for (int woche = 1; woche <= 53; ++woche)
+        Kombi2->addItem(zweistellig(woche));
+    Bezeichnung13 = bezeichnung("Bezeichnung13");
+    Bezeichnung2 = bezeichnung("Bezeichnung2");
+    lblArt = bezeichnung("lblArt");
+    alsUeberschrift(Bezeichnung13);
+    cmdClear = befehl("cmdClear", "C", hinweis("Löscht alle eingegenen Gewinnzahlen im Tippfeld"));
+    Befehl7 = befehl("Befehl7", "&Samstagslotto aktualisieren",
+                     hinweis("Auf die Spielart Samstagslotto schalten, um die Ziehungsdatei Salotto.dat zu "
+                             "aktualisieren."));
+    Befehl10 = befehl("Befehl10", "&Mittwochslotto aktualisieren",
+                      hinweis("Auf die Spielart Mittwochslotto schalten, um die Ziehungsdatei  Malotto.dat zu "
+                              "aktualisieren."));
+    Befehl11 = befehl("Befehl11", "Mittwoch (&B)", hinweis("Schaltet auf Mittwochslotto, Ziehung B."));
+    Befehl8 = befehl("Befehl8", "Gewinnzahlen &speichern");
+    Befehl8->setEnabled(false);
+
+    // clang-format off
+    Rahmen1 = rahmen("Rahmen1", "Die Gewinnzahlen einer neuen Ziehung erfassen", spalte({
+        Bezeichnung13,
+        Bezeichnung2,
+        lblArt,
+        Befehl7,
+        zeile({dehnbar(Befehl10), Befehl11}),
+        zeile({luecke(), Label6, luecke()}),
+        zeile(zahlen),
+        formular({
+            {bezeichnung("lblSuperzahl", "Superzahl auswählen:"), cmbSZ},
+            {bezeichnung("lblSpieljahr", "Spieljahr:"), Kombi1},
+            {bezeichnung("lblSpielwoche", "Spielwoche:"), Kombi2},
+        }),
+        luecke(),
+        zeile({dehnbar(Befehl8), cmdClear}),
+    }));
+    // clang-format on
+}
+
+void frmAnzeige::baueKnoepfe()
+{
+    cmdNotepad = befehl("cmdNotepad", "Korrektur mit &Notepad");
+    Befehl3 = befehl("Befehl3", "Korrektur mit MS-&Write");
+    Befehl9 = befehl("Befehl9", "Neu &Laden",
+                     hinweis("Nur notwendig wenn die Ziehungsdateien mit Notepad oder einen anderen Editor verändert "
+                             "oder aktualisiert wurden."));
+    Befehl9->setEnabled(false);
+    fEditor = rahmen("fEditor", "Eventuell falsch erfasste Gewinnzahlen mit einem Editor korrigieren",
+                     zeile({cmdNotepad, Befehl3, Befehl9}));
+    Befehl5 = befehl("Befehl5", "&Hilfe");
+    Befehl2 = befehl("Befehl2", "&Info");
+    Befehl1 = befehl("Befehl1", "<< &Zurück");
+
+    Text11 = new QTextEdit(this);
+    Text11->setObjectName("Text11");
+    Text11->setReadOnly(true);
+    Text11->setPlainText(AnzeigeTexte::kAblauf);
+    Command1 = befehl("Command1", "ok");
+    Frame1 = rahmen("Frame1", "Info", spalte({dehnbar(Text11), zeile({luecke(), Command1})}));
+    Frame1->setMinimumWidth(Rahmen1->sizeHint().width());
+    Frame1->hide();
+}
+
+void frmAnzeige::verbinde()
+{
+    connect(HBildlauf1, &QScrollBar::valueChanged, this, [this](int nr) { zeigeZiehung(nr); });
+    connect(chkTippfeld, &QCheckBox::clicked, this, [this] { schalteTippmuster(); });
+    connect(cmbSZ, &QComboBox::currentIndexChanged, this, [this] { zeigeEingabe(); });
+    Label6->beiKlick = [this](int) {
+        chkTippfeld->setChecked(false);
+        zeigeEingabe();
+    };
+    bei(cmdClear, [this] { leereEingabe(); });
+    bei(Befehl1, [this] { schliesse(); });
+    bei(Befehl2, [this] { zeigeInfo(true); });
+    bei(Command1, [this] { zeigeInfo(false); });
+    bei(Befehl3, [this] { oeffneEditor("MS-Write"); });
+    bei(cmdNotepad, [this] { oeffneEditor("Notepad"); });
+    bei(Befehl5, [this] { umgebung().boxen.info(kProgrammtitel, AnzeigeTexte::kHilfe); });
+    bei(Befehl7, [this] { schalteAufMenue(Samstagslotto); });
+    bei(Befehl10, [this] { schalteAufMenue(Mittwochslotto); });
+    bei(Befehl11, [this] { schalteAufMittwochB(); });
+    bei(Befehl8, [this] { speichere(); });
+    bei(Befehl9, [this] { ladeNeu(); });
+    bei(Befehl12, [this] { erzeugeDatei(); });
+}
+
+void frmAnzeige::beimZeigen()
+{
+    const std::chrono::weekday wochentag{std::chrono::local_days{umgebung().uhr.heute()}};
+    if (wochentag == std::chrono::Saturday)
+        schalteAufMenue(Samstagslotto);
+    else if (wochentag == std::chrono::Wednesday)
+        schalteAufMenue(Mittwochslotto);
+    else
+        frischeAuf();
+}
+
+QString frmAnzeige::dateiname() const
+{
+    return qt(ziehungsdateiName(umgebung().archiv.Spielart));
+}
+
+void frmAnzeige::frischeAuf()
+{
+    const ZiehungsArchiv& archiv = umgebung().archiv;
+    const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
+    Bezeichnung13->setText(spielname(archiv.Spielart));
+    lblArt->setText("Aktive Ziehungsdatei: " + dateiname());
+    setzeHinweis(cmdNotepad, "Korrigieren oder Aktualisieren der Datei " + dateiname() + " mit Notepad.exe");
+    setzeHinweis(Befehl3, "Korrigieren oder Aktualisieren der Datei " + dateiname() + " mit MS-Write");
+
+    const Vorschlag vorschlag = naechsteZiehung(archiv);
+    Kombi1->clear();
+    for (int jahr = archiv.jjjj[letzte] + 1; jahr <= archiv.jjjj[letzte] + kJahreZurWahl; ++jahr)
+        Kombi1->addItem(qt(Format(jahr, "0000")));
+    Kombi1->setCurrentText(qt(Format(vorschlag.jjjj, "0000")));
+    Kombi2->setCurrentText(zweistellig(vorschlag.sw));
+    Bezeichnung2->setText(
+        QString(" Gespeicherte Ziehungen von %1 bis %2 -")
+            .arg(istSamstag(archiv.Spielart) ? "1955/41" : "1986/23", qt(jahrUndWoche(archiv, letzte))));
+    {
+        const QSignalBlocker stumm(HBildlauf1);
+        HBildlauf1->setRange(std::min(1, archiv.AnzahlZiehungen), archiv.AnzahlZiehungen);
+        HBildlauf1->setValue(archiv.AnzahlZiehungen);
+    }
+    zeigeZiehung(archiv.AnzahlZiehungen);
+    fuelleListe();
+}
+
+void frmAnzeige::fuelleListe()
+{
+    const ZiehungsArchiv& archiv = umgebung().archiv;
+    Liste1->modell().aufAnfrage(static_cast<std::size_t>(archiv.AnzahlZiehungen),
+                                [&archiv](std::size_t zeile) { return listenzeile(archiv, zeile + 1); });
+    Liste1->modell().SetListIndex(archiv.AnzahlZiehungen - 1);
+    Liste1->zeigeZeile(std::max(0, archiv.AnzahlZiehungen - 1));
+}
+
+void frmAnzeige::zeigeZiehung(int nr)
+{
+    const ZiehungsArchiv& archiv = umgebung().archiv;
+    if (nr < 1 || nr > archiv.AnzahlZiehungen) {
+        for (QLineEdit* text : Texte)
+            text->clear();
+        lblDate->clear();
+        bezeichnung23->setText("Ziehung 0  (von 0 gespeicherten)");
+        return;
+    }
+    const auto stelle = static_cast<std::size_t>(nr);
+    const auto zahlen = archiv.gewinnzahlen(stelle);
+    Texte[0]->setText(qt(Format(archiv.jjjj[stelle], "0000")));
+    Texte[1]->setText(zweistellig(archiv.sw[stelle]));
+    for (std::size_t i = 0; i < zahlen.size(); ++i)
+        Texte[i + 2]->setText(zahlInZwei(zahlen[i]));
+    Texte[8]->setText(qt(zusatzzahlText(archiv, stelle)));
+    Texte[9]->setText(qt(superzahlText(archiv, stelle)));
+    bezeichnung23->setText(QString("Ziehung %1  (von %2 gespeicherten)").arg(nr).arg(archiv.AnzahlZiehungen));
+    lblDate->setText(qt(archiv.Datum[stelle]));
+    if (chkTippfeld->isChecked())
+        zeigeImTippfeld(stelle);
+}
+
+void frmAnzeige::zeigeImTippfeld(std::size_t nr)
+{
+    Tippfeld7x7 tippfeld;
+    tippfeld.zeige(umgebung().archiv.gewinnzahlen(nr));
+    Label6->zeige(tippfeld);
+    const QString superzahl = qt(superzahlText(umgebung().archiv, nr));
+    const QSignalBlocker stumm(cmbSZ);
+    cmbSZ->setCurrentIndex(cmbSZ->findText(superzahl));
+    lblSZ->setText(superzahl);
+}
+
+void frmAnzeige::schalteTippmuster()
+{
+    if (!chkTippfeld->isChecked())
+        return;
+    Befehl8->setEnabled(false);
+    for (QLabel* zahl : lblZ)
+        zahl->clear();
+    lblSZ->clear();
+    zeigeZiehung(HBildlauf1->value());
+}
+
+void frmAnzeige::zeigeEingabe()
+{
+    const std::vector<int> zahlen = Label6->modell().gewaehlte();
+    for (std::size_t i = 0; i < lblZ.size(); ++i)
+        lblZ[i]->setText(i < zahlen.size() ? QString::number(zahlen[i]) : QString());
+    lblSZ->setText(cmbSZ->currentText());
+    Befehl8->setEnabled(!chkTippfeld->isChecked() && zahlen.size() == lblZ.size() && cmbSZ->currentIndex() >= 0);
+}
+
+void frmAnzeige::leereEingabe()
+{
+    Label6->zeige({});
+    cmbSZ->setCurrentIndex(-1);
+    zeigeEingabe();
+}
+
+NeueZiehung frmAnzeige::eingabe() const
+{
+    NeueZiehung ziehung;
+    ziehung.jjjj = Kombi1->currentText().toInt();
+    ziehung.sw = Kombi2->currentText().toInt();
+    const std::vector<int> zahlen = Label6->modell().gewaehlte();
+    std::copy_n(zahlen.begin(), std::min(zahlen.size(), ziehung.zahlen.size()), ziehung.zahlen.begin());
+    ziehung.superzahl = cmbSZ->currentIndex();
+    return ziehung;
+}
+
+void frmAnzeige::speichere()
+{
+    const NeueZiehung ziehung = eingabe();
+    if (ziehung.jjjj < 1000 || ziehung.jjjj > 9999) {
+        umgebung().boxen.info("Lotto-Nachricht", "Jahreszahlen 4-stellig eingeben !");
+        return;
+    }
+    const QString datei = dateiname();
+    if (!speichereZiehung(umgebung(), ziehung, Bezeichnung13->text()))
+        return;
+    frischeAuf();
+    leereEingabe();
+    umgebung().boxen.info(kInfotitel,
+                          "Die Gewinnzahlen der letzten Spielwoche wurden in Datei " + datei + " gespeichert !");
+}
+
+void frmAnzeige::erzeugeDatei()
+{
+    if (erzeugeZiehungsdatei(umgebung()))
+        setzeTitel("Die Datei " + dateiname() + " wurde erzeugt.");
+}
+
+void frmAnzeige::schalteAufMenue(std::int16_t spielart)
+{
+    const WarteAnzeige warten(*this);
+    umgebung().menue->waehleSpielart(spielart);
+    leereEingabe();
+    frischeAuf();
+}
+
+void frmAnzeige::schalteAufMittwochB()
+{
+    ladeSpielart(umgebung(), MittwochslottoB);
+    leereEingabe();
+    frischeAuf();
+    Bezeichnung13->setText("MITTWOCHSLOTTO (B)");
+}
+
+void frmAnzeige::ladeNeu()
+{
+    const WarteAnzeige warten(*this, "Die 'Historischen Ziehungszahlen' werden aktualisiert und neu geladen...");
+    ladeSpielart(umgebung(), umgebung().archiv.Spielart);
+    frischeAuf();
+    Befehl9->setEnabled(false);
+}
+
+void frmAnzeige::oeffneEditor(const QString& programm)
+{
+    const QString meldung = programm +
+                            " wurde nicht gefunden. Verwenden Sie einen  vorhandenen ASCII-Text-Editor um die "
+                            "Datei " +
+                            dateiname() + " zu aktualisieren.";
+    if (oeffneImEditor(umgebung(), meldung))
+        Befehl9->setEnabled(true);
+}
+
+void frmAnzeige::zeigeInfo(bool zeigen)
+{
+    Rahmen1->setVisible(!zeigen);
+    Frame1->setVisible(zeigen);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "archive/logic/Neueingabe.h"
+#include "shell/elements/Bildschirm.h"
+
+class QScrollBar;
+class QTextEdit;
+class Tippfeld7x7View;
+
+/// Shows the draws of the active game, one at a time and as a list, and appends a new one to the Ziehungsdatei.
+class frmAnzeige final : public Bildschirm {
+public:
+    explicit frmAnzeige(Umgebung& umgebung);
+
+    void beimZeigen() override;
+
+private:
+    void baueAnzeige();
+    void baueEingabe();
+    void baueKnoepfe();
+    void verbinde();
+
+    void frischeAuf();
+    void zeigeZiehung(int nr);
+    void fuelleListe();
+    void zeigeImTippfeld(std::size_t nr);
+    void schalteTippmuster();
+    void zeigeEingabe();
+    void leereEingabe();
+
+    NeueZiehung eingabe() const;
+    void speichere();
+    void erzeugeDatei();
+
+    void schalteAufMenue(std::int16_t spielart);
+    void schalteAufMittwochB();
+    void ladeNeu();
+    void oeffneEditor(const QString& programm);
+    void zeigeInfo(bool zeigen);
+    QString dateiname() const;
+
+    QGroupBox *Rahmen1, *Rahmen2, *Rahmen3, *fEditor, *Frame1;
+    QScrollBar* HBildlauf1;
+    std::array<QLineEdit*, 10> Texte; ///< Text1 to Text10: year, week, six numbers, Zusatzzahl, Superzahl
+    QLabel *lblDate, *bezeichnung23, *Bezeichnung24, *lblArt, *Bezeichnung13, *Bezeichnung2, *lblSZ;
+    QCheckBox* chkTippfeld;
+    Liste* Liste1;
+    Tippfeld7x7View* Label6;
+    std::array<QLabel*, 6> lblZ; ///< lblZ(1) to lblZ(6)
+    QComboBox *cmbSZ, *Kombi1, *Kombi2;
+    QPushButton *Befehl1, *Befehl2, *Befehl3, *Befehl5, *Befehl7, *Befehl8, *Befehl9, *Befehl10, *Befehl11, *Befehl12;
+    QPushButton *cmdClear, *cmdNotepad, *Command1;
+    QTextEdit* Text11;
+};

@@ -1,0 +1,264 @@
+#include "archive/screens/frmOnline.h"
+
+#include "archive/screens/Fortschrittsfeld.h"
+#include "archive/screens/Updateserver.h"
+#include "shell/elements/Lauf.h"
+#include "shell/elements/Utf8.h"
+#include "shell/logic/Dateien.h"
+
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::int64_t kZug = 16; ///< milliseconds between two turns of the event loop
+
+/// From here on a wait is no longer short: the user may act, so that a server that hangs does not hold the screen.
+constexpr std::chrono::milliseconds kGeduld{500};
+
+constexpr auto kSalotto = "Aktualisieren Samstagslotto (Salotto.dat)";
+constexpr auto kMalotto = "Aktualisieren Mittwochslotto (Malotto.dat)";
+
+constexpr int kAdressbreite = 340; ///< pixels
+
+const QColor kBalken(192, 192, 0);
+
+} // namespace
+
+frmOnline::frmOnline(Umgebung& umgebung)
+    : Bildschirm(umgebung, "frmOnline", "Aktualisierung der Ziehungsdateien"),
+      internet_([this](std::chrono::milliseconds gewartet) { return warte(gewartet); }),
+      dl(internet_,
+         {[this] { return seitStart_.elapsed(); }, [this] { return istZeitFuerZug(); }, [this] { gibZug(); }})
+{
+    seitStart_.start();
+    dl.Update = [this] { dl_Update(); };
+    baueFelder();
+
+    // clang-format off
+    Bloecke figuren;
+    for (std::size_t i = 0; i < lblInfo.size(); ++i) {
+        figuren.emplace_back(lblInfo[i]);
+        figuren.emplace_back(dehnbar(lblStatus[i]));
+    }
+    fraStatus = rahmen("fraStatus", "Status", spalte({
+        raster(6, figuren),
+        zeile({dehnbar(Picture1), Label3}),
+        lblStatus[6],
+    }));
+    setzeInhalt(spalte({
+        eng(spalte({Label1, zeile({dehnbar(txtSa), cmdStart[1]})})),
+        eng(spalte({Label2, zeile({dehnbar(txtMa), cmdStart[2]})})),
+        eng(spalte({lblURL, zeile({dehnbar(txtURL), cmdStart[0]})})),
+        zeile({lblVerz, dehnbar(txtFolder)}),
+        fraStatus,
+        Label4,
+        luecke(),
+        zeile({Command1, luecke(), Command2}),
+    }));
+    // clang-format on
+
+    bei(cmdStart[0], [this] { starte(Onlineaufgabe::Zip); });
+    bei(cmdStart[1], [this] { starte(Onlineaufgabe::Samstag); });
+    bei(cmdStart[2], [this] { starte(Onlineaufgabe::Mittwoch); });
+    bei(Command1, [this] { melde(downloadHilfe()); });
+    bei(Command2, [this] { schliesse(); });
+}
+
+void frmOnline::baueFelder()
+{
+    cmdStart[0] = befehl("cmdStart(0)", "Ziehungsdateien als ZipFile downloaden",
+                         hinweis("Download aller Ziehungsdateien. Für den Fall, dass die Ziehungsdateien nicht mehr "
+                                 "vorhanden sind."));
+    cmdStart[1] = befehl("cmdStart(1)", kSalotto, hinweis("Aktualisieren Samstagslotto"));
+    cmdStart[2] = befehl("cmdStart(2)", kMalotto, hinweis("Aktualisieren Mittwochslotto"));
+    for (QPushButton* knopf : cmdStart)
+        knopf->setMinimumWidth(cmdStart[2]->sizeHint().width());
+    txtFolder = textfeld("txtFolder");
+    txtSa = textfeld("txtSa", updateAdresse("/lotto/Salotto.dat"));
+    txtMa = textfeld("txtMa", updateAdresse("/lotto/Malotto.dat"));
+    txtURL = textfeld("txtURL", updateAdresse("/lotto/ziehungen.zip"));
+    lblURL = bezeichnung("lblURL", "Alle Ziehunsdateien als ZipFile (Sa, Mi und alte Mittwochziehung B)");
+    Label1 = bezeichnung("Label1", kSalotto);
+    Label2 = bezeichnung("Label2", kMalotto);
+    Label3 = bezeichnung("Label3", "0 %");
+    Label4 = bezeichnung("Label4", "Hinweis: Für die Aktualisierung muss der Computer mit dem Internet verbunden sein. "
+                                   "Das Programm startet selbst keine Verbindung.");
+    Label4->setWordWrap(true);
+    lblVerz = bezeichnung("lblVerz", "Zielverzeichnis :");
+    feld(lblInfo, "lblInfo");
+    feld(lblStatus, "lblStatus");
+    const std::array infos{"Größe:", "Empfangen:", "Zeit:", "Restzeit:", "Gesamtzeit:", "Geschwindigkeit:"};
+    for (std::size_t i = 0; i < infos.size(); ++i)
+        lblInfo[i]->setText(infos[i]);
+    for (QLabel* figur : lblStatus) {
+        figur->setTextFormat(Qt::PlainText);
+        figur->setMinimumWidth(fontMetrics().horizontalAdvance("999.999,99 KB/s"));
+    }
+    Label3->setMinimumWidth(fontMetrics().horizontalAdvance("100,0 %"));
+    for (QLineEdit* adresse : {txtSa, txtMa, txtURL})
+        adresse->setMinimumWidth(kAdressbreite);
+    Picture1 = new Fortschrittsfeld(this);
+    Picture1->setObjectName("Picture1");
+    Command1 = befehl("Command1", "Hilfe");
+    Command2 = befehl("Command2", "<<", hinweis("Zum Lotto-Auswahlmenü"));
+}
+
+void frmOnline::beimZeigen()
+{
+    txtFolder->setText(qt(mitTrenner(umgebung().archiv.ProgrammVerzeichnis)));
+}
+
+void frmOnline::starte(Onlineaufgabe aufgabe)
+{
+    Lauf lauf(*this);
+    if (!lauf)
+        return;
+    setzeAnzeigeZurueck();
+    Onlineaktualisierung aktualisierung(aufgabe, umgebung().archiv.ProgrammVerzeichnis, utf8(txtFolder->text()));
+    if (!QFileInfo(txtFolder->text()).isDir() || !aktualisierung.beginne()) {
+        melde({"", "Bitte ein gültiges, vorhandenes Verzeichnis angeben."});
+        return;
+    }
+    waehle(aufgabe);
+    sperre(true);
+    if (!uebertrage(aktualisierung, aufgabe))
+        return;
+    sperre(false);
+    cmdStart.at(static_cast<std::size_t>(aufgabe))->setFocus();
+}
+
+/// The game of the task becomes the one of the menu. A missing file is no reason for a box here: it may be what the
+/// user has come to fetch.
+void frmOnline::waehle(Onlineaufgabe aufgabe)
+{
+    const std::int16_t spielart = spielartVon(aufgabe);
+    if (aufgabe == Onlineaufgabe::Zip || !gibtZiehungsdatei(umgebung().archiv.ProgrammVerzeichnis, spielart))
+        return;
+    if (umgebung().menue)
+        umgebung().menue->waehleSpielart(spielart);
+    else
+        ladeSpielart(umgebung(), spielart);
+}
+
+/// False if the new file was rejected: then the start buttons stay disabled.
+bool frmOnline::uebertrage(Onlineaktualisierung& aktualisierung, Onlineaufgabe aufgabe)
+{
+    const bool zip = aufgabe == Onlineaufgabe::Zip;
+    lblStatus[6]->setText(zip ? "Status: Download wird gestartet. Bitte warten ..."
+                              : "Status: Aktualisierung wird gestartet. Bitte warten ...");
+    const std::array quellen{txtURL, txtSa, txtMa};
+    const QString quelle = quellen.at(static_cast<std::size_t>(aufgabe))->text();
+    dl.Download(utf8(quelle), aktualisierung.empfangsordner());
+    zeigeFiguren();
+    const Onlineausgang ausgang = aktualisierung.schliesseAb();
+    if (ausgang == Onlineausgang::Abgewiesen)
+        melde(abweisung());
+    else if (ausgang == Onlineausgang::Uebernommen && !zip)
+        zeigeErfolg(aufgabe);
+    return ausgang != Onlineausgang::Abgewiesen;
+}
+
+void frmOnline::zeigeErfolg(Onlineaufgabe aufgabe)
+{
+    waehle(aufgabe);
+    if (umgebung().archiv.AnzahlZiehungen > 0)
+        melde(erfolgsmeldung(umgebung().archiv));
+}
+
+void frmOnline::setzeAnzeigeZurueck()
+{
+    for (QLabel* figur : lblStatus)
+        figur->setText("0");
+    Label3->setText("0 %");
+    O_ShowProgressBar(Picture1, 100, Qt::black, 100);
+    ref();
+}
+
+void frmOnline::sperre(bool gesperrt)
+{
+    for (QPushButton* knopf : cmdStart)
+        knopf->setEnabled(!gesperrt);
+}
+
+void frmOnline::melde(const Meldung& meldung)
+{
+    umgebung().boxen.info(meldung.titel.empty() ? kProgrammtitel : qt(meldung.titel), qt(meldung.text));
+}
+
+/// A chunk has come or an error has ended the transfer. The screen follows at the pace of the eye; what the last chunk
+/// has left is shown behind the transfer.
+void frmOnline::dl_Update()
+{
+    if (dl.ErrorNumber() == 0 && !istZeitFuerZug())
+        return;
+    zeigeFiguren();
+    gibZug();
+}
+
+void frmOnline::zeigeFiguren()
+{
+    const Downloadfiguren figuren{dl.Size(),  dl.ReceivedBytes(), dl.Downloadtime(),
+                                  dl.Speed(), dl.ErrorNumber(),   dl.ErrorDescription()};
+    if (const auto status = downloadStatus(figuren))
+        lblStatus[6]->setText(qt(*status));
+    const auto anzeige = downloadanzeige(figuren);
+    if (!anzeige)
+        return;
+    for (std::size_t i = 0; i < anzeige->werte.size(); ++i)
+        lblStatus[i]->setText(qt(anzeige->werte[i]));
+    Label3->setText(qt(anzeige->anteil));
+    O_ShowProgressBar(Picture1, anzeige->prozent, kBalken, 100);
+}
+
+void frmOnline::ref()
+{
+    Picture1->fuelle(0, {});
+    repaint();
+}
+
+void frmOnline::O_ShowProgressBar(Fortschrittsfeld* box, double percent, const QColor& color, double max) const
+{
+    box->fuelle(fortschrittsbreite(percent, max, box->contentsRect().width()), color);
+}
+
+bool frmOnline::istZeitFuerZug() const
+{
+    return seitStart_.elapsed() - letzterZug_ >= kZug;
+}
+
+void frmOnline::gibZug()
+{
+    if (!umgebung().pumpe.verarbeite())
+        stoppe();
+    if (gestoppt())
+        dl.StopDownload(true);
+    letzterZug_ = seitStart_.elapsed();
+}
+
+bool frmOnline::warte(std::chrono::milliseconds gewartet)
+{
+    if (gewartet >= kGeduld && istZeitFuerZug())
+        gibZug();
+    return !gestoppt();
+}
+
+/// The game of the menu's option, its archive and the option agree again.
+void frmOnline::beimSchliessen()
+{
+    dl.StopDownload(true);
+    const std::int16_t spielart = std::max<std::int16_t>(umgebung().archiv.Spielart, Samstagslotto);
+    if (!gibtZiehungsdatei(umgebung().archiv.ProgrammVerzeichnis, spielart)) {
+        umgebung().archiv.AnzahlZiehungen = 0;
+        return;
+    }
+    if (umgebung().menue)
+        umgebung().menue->waehleSpielart(spielart);
+    else
+        ladeSpielart(umgebung(), spielart);
+}

@@ -1,0 +1,146 @@
+#include "archive/screens/frmlana.h"
+
+#include "archive/logic/Dateiinhalt.h"
+#include "archive/screens/Editor.h"
+#include "shell/elements/Lauf.h"
+#include "shell/elements/Liste.h"
+#include "shell/elements/Stil.h"
+#include "shell/elements/Utf8.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr std::size_t kGroessteDatei = std::size_t{16} << 20;
+
+const std::vector<std::string> kFormat{
+    "Das Programm prüft alle Datensätze der Gewinnzahldatei ",
+    "auf richtiges Datensatzformat.",
+    "Format:             jjjj,sw,z1,z2,z3,z4,z5,z6,zz,s",
+    "Beispiel:           1998,13,02,08,10,12,22,35,46,3",
+    "jjjj  -> Spieljahr",
+    "sw    -> Spielwoche",
+    "z1-z6 -> Gewinnzahlen 1-6",
+    "zz    -> Zusatzzahl",
+    "s     -> Superzahl (einstellig)",
+    "Zwischen den Zahlen steht ein \"Komma\" als Trennungszeichen.",
+    "Vor einstelligen Gewinnzahlen steht eine Vornull (ausser bei der ",
+    "Superzahl). Gefundene Fehler können mit einem Editor oder einer",
+    "Textverarbeitung (Write/Wordpad) korrigiert werden.",
+};
+
+} // namespace
+
+frmlana::frmlana(Umgebung& umgebung)
+    : Bildschirm(umgebung, "frmlana",
+                 "Analyse der Gewinnzahldatei " + qt(ziehungsdateiName(umgebung.archiv.Spielart))),
+      Ziehungsdatei(qt(ziehungsdateiName(umgebung.archiv.Spielart)))
+{
+    Bezeichnung1 =
+        bezeichnung("Bezeichnung1", "Überprüfung der Datensatzstruktur von Gewinnzahldatei " + Ziehungsdatei);
+    Bezeichnung2 = listenkopf(
+        "Bezeichnung2",
+        "Fehlernummer                                                                   falscher Datensatz");
+    Bezeichnung3 = listenkopf("Bezeichnung3", " JJSW des vorherigen, korrekten Datensatzess");
+    Bezeichnung4 = bezeichnung("Bezeichnung4", "Korrekte Ziehungen:");
+    Bezeichnung5 = bezeichnung("Bezeichnung5", "Falsche Ziehungen:");
+    Label1 = bezeichnung("Label1", "Überprüft Ziehung: ");
+    Bezeichnung6 = bezeichnung("Bezeichnung6");
+    Liste1 = liste("Liste1");
+    Liste2 = liste("Liste2");
+    Liste3 = liste("Liste3");
+    Befehl1 = befehl("Befehl1", "&Zurück");
+    Befehl2 = befehl("Befehl2", "Struktur &prüfen");
+    Befehl3 = befehl("Befehl3", "&Write");
+    Befehl4 = befehl("Befehl4", "&Dos-Editor");
+    Befehl5 = befehl("Befehl5", "Word&pad");
+    Befehl6 = befehl("Befehl6", "&Info");
+    Befehl7 = befehl("Befehl7", "ok");
+    Rahmen1 = rahmen("Rahmen1", "Info", spalte({dehnbar(Liste3), zeile({luecke(), Befehl7})}));
+    fuelleListen();
+    alsUeberschrift(Bezeichnung1);
+
+    // clang-format off
+    setzeInhalt(spalte({
+        Bezeichnung1,
+        zeile({Befehl2, Label1, Bezeichnung6, luecke(), Bezeichnung3}),
+        Bezeichnung2,
+        dehnbar(Liste1, 2),
+        zeile({dehnbar(Liste2), Rahmen1}),
+        zeile({Bezeichnung4, luecke(), Bezeichnung5}),
+        zeile({Befehl3, Befehl4, Befehl5, Befehl6, luecke(), Befehl1}),
+    }));
+    // clang-format on
+
+    bei(Befehl1, [this] { schliesse(); });
+    bei(Befehl2, [this] { pruefe(); });
+    bei(Befehl3, [this] { oeffneEditor("MS-Write", "vorhandenen ASCII-Text-Editor", "um die Datei"); });
+    bei(Befehl4, [this] { oeffneEditor("DOS Editor EDIT.COM ", "vorhandenen ASCII-Editor", "um die Datei "); });
+    bei(Befehl5, [this] { oeffneEditor("WordPad", "vorhandenen ASCII-Text-Editor", "um die Datei "); });
+    bei(Befehl6, [this] { Rahmen1->show(); });
+    bei(Befehl7, [this] { Rahmen1->hide(); });
+    Liste1->beiAuswahl = [this] { zeigeFehler(); };
+}
+
+void frmlana::fuelleListen()
+{
+    Liste1->setzeSichtbar(14, 92);
+    Liste2->setzeSichtbar(8, 40);
+    Liste3->setzeSichtbar(8, 62);
+    Liste2->modell().fuelle({kStrukturfehler.begin(), kStrukturfehler.end()});
+    Liste3->modell().fuelle(kFormat);
+    Liste2->hide();
+    Rahmen1->hide();
+}
+
+void frmlana::pruefe()
+{
+    Lauf lauf(*this);
+    if (!lauf)
+        return;
+    Liste1->modell().Clear();
+    Liste2->hide();
+    const Dateiinhalt inhalt = leseDateiinhalt(utf8(aktiveZiehungsdatei(umgebung())), kGroessteDatei);
+    if (inhalt.stand == Dateistand::Fehlt) {
+        umgebung().boxen.info(kProgrammtitel,
+                              "ERROR 53: Die Ziehungsdatei xxLOTTO.DAT wurde nicht gefunden. Die Datei xxLOTTO.DAT muß "
+                              "sich im gleichen Verzeichnis wie das Programm TOMBRIX.EXE befinden.");
+        return;
+    }
+    ergebnis_ = pruefeStruktur(inhalt.bytes, [&](const Strukturbericht& stand) {
+        Bezeichnung6->setText(qt(stand.letzterSatz));
+        return lauf.weiter();
+    });
+    zeigeErgebnis();
+}
+
+void frmlana::zeigeErgebnis()
+{
+    const std::size_t falsche = ergebnis_.fehlerzeilen.size();
+    Bezeichnung6->setText(qt(ergebnis_.letzterSatz));
+    Bezeichnung4->setText("Korrekte Ziehungen: " + QString::number(ergebnis_.korrekte));
+    Bezeichnung5->setText("Falsche Ziehungen: " + QString::number(falsche) +
+                          (falsche > 0 ? " >> Zur Fehlerbeschreibung -> klicke auf Fehlerlzeile <<" : ""));
+    if (falsche > 0)
+        Liste1->modell().fuelle(ergebnis_.fehlerzeilen);
+    else
+        Liste1->modell().fuelle({std::string(kStrukturRichtig)});
+}
+
+void frmlana::zeigeFehler()
+{
+    const std::ptrdiff_t zeile = Liste1->modell().ListIndex();
+    const int nummer = fehlernummer(Liste1->modell().List(static_cast<std::size_t>(zeile)));
+    Liste2->show();
+    Liste2->modell().SetListIndex(nummer > 0 ? nummer : ListenModell::kKeiner);
+    if (nummer > 0)
+        Liste2->zeigeZeile(nummer);
+}
+
+void frmlana::oeffneEditor(const QString& programm, const QString& editorart, const QString& vorDatei)
+{
+    oeffneImEditor(umgebung(), programm + " wurde nicht gefunden. Verwenden Sie einen  " + editorart + " " + vorDatei +
+                                   Ziehungsdatei + " zu aktualisieren.");
+}

@@ -1,0 +1,147 @@
+#include "archive/logic/Strukturpruefung.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::string kRichtig = "2024,31,03,12,24,33,41,49,00,7";
+
+/// The correct record with another text from a 1-based position on.
+std::string mit(std::size_t stelle, const std::string& text)
+{
+    std::string satz = kRichtig;
+    return satz.replace(stelle - 1, text.size(), text);
+}
+
+Strukturbericht pruefe(const std::string& bytes) { return pruefeStruktur(bytes, {}); }
+
+TEST(Datensatz, OhneFehler)
+{
+    EXPECT_EQ(pruefeDatensatz(kRichtig), 0);
+    EXPECT_EQ(pruefeDatensatz("1998,13,02,08,10,12,22,35,46,3"), 0);
+    EXPECT_EQ(pruefeDatensatz(mit(30, "0")), 0);
+}
+
+TEST(Datensatz, LeereZeileIstFehler1)
+{
+    EXPECT_EQ(pruefeDatensatz(""), 1);
+    EXPECT_EQ(pruefeDatensatz("                              "), 1);
+}
+
+TEST(Datensatz, LaengeUnterUndUeber30)
+{
+    EXPECT_EQ(pruefeDatensatz(kRichtig.substr(0, 28)), 2);
+    EXPECT_EQ(pruefeDatensatz(kRichtig.substr(0, 29)), 2);
+    EXPECT_EQ(pruefeDatensatz(kRichtig + "0"), 3);
+    EXPECT_EQ(kStrukturfehler[2], "Error 02: Datensatz hat weniger als 28 Zeichen.");
+}
+
+TEST(Datensatz, JedeGeprueefteStelleMeldetIhrenFehler)
+{
+    const std::vector<std::pair<std::size_t, int>> stellen{{2, 4},   {3, 4},   {4, 4},   {23, 23}, {24, 24},
+                                                           {25, 25}, {26, 26}, {27, 27}, {28, 28}, {29, 26},
+                                                           {30, 28}, {6, 30},  {9, 31},  {12, 32}, {15, 33},
+                                                           {18, 34}, {21, 35}};
+    for (const auto& [stelle, fehler] : stellen)
+        EXPECT_EQ(pruefeDatensatz(mit(stelle, "x")), fehler) << stelle;
+}
+
+TEST(Datensatz, DieErsteZifferEntscheidetUeberDieGewinnzahlen)
+{
+    EXPECT_EQ(pruefeDatensatz(mit(9, "50")), 31);
+    EXPECT_EQ(pruefeDatensatz(mit(24, "50")), 36);
+    EXPECT_EQ(pruefeDatensatz(mit(27, "50")), 37);
+    EXPECT_EQ(pruefeDatensatz(mit(6, "6")), 30);
+}
+
+TEST(Datensatz, NichtGepruefteKommasGehenDurch)
+{
+    for (const std::size_t stelle : {5u, 8u, 11u, 14u, 17u, 20u})
+        EXPECT_EQ(pruefeDatensatz(mit(stelle, ";")), 0) << stelle;
+}
+
+TEST(Datensatz, Spielwoche54IstFehler38NachDenZiffernDerZahlen)
+{
+    EXPECT_EQ(pruefeDatensatz(mit(6, "53")), 0);
+    EXPECT_EQ(pruefeDatensatz(mit(6, "54")), 38);
+    std::string satz = mit(6, "54");
+    satz[8] = '5';
+    EXPECT_EQ(pruefeDatensatz(satz), 31);
+}
+
+TEST(Datensatz, ReihenfolgeUndDoppelte)
+{
+    EXPECT_EQ(pruefeDatensatz(mit(9, "12")), 39);
+    EXPECT_EQ(pruefeDatensatz(mit(21, "49")), 39);
+    EXPECT_EQ(pruefeDatensatz(mit(9, "49")), 39);
+    EXPECT_EQ(pruefeDatensatz(mit(9, "45")), 39);
+    EXPECT_EQ(pruefeDatensatz(mit(9, "00")), 40) << "the missing Zusatzzahl equals it";
+    EXPECT_EQ(pruefeDatensatz("2024,31,00,12,24,33,41,49,07,7"), 0);
+}
+
+TEST(Datensatz, ZusatzzahlGleichEinerGewinnzahl)
+{
+    for (const char* zahl : {"03", "12", "24", "33", "41", "49"})
+        EXPECT_EQ(pruefeDatensatz(mit(27, zahl)), 40) << zahl;
+    EXPECT_EQ(pruefeDatensatz(mit(27, "04")), 0);
+}
+
+TEST(Struktur, FehlerzeileNenntDenSatzDavor)
+{
+    const Strukturbericht bericht =
+        pruefe("falsch\r\n1998,13,02,08,10,12,22,35,46,3\r\nkurz\r\n1998,51,02,08,10,12,22,35,46,3\r\n1\r\n");
+    EXPECT_EQ(bericht.korrekte, 2);
+    EXPECT_EQ(bericht.fehlerzeilen,
+              (std::vector<std::string>{"Error 01 nach Ziehung: 1955/4X >> falsch <<",
+                                        "Error 01 nach Ziehung: 1998 >> kurz <<", "Error 02 nach Ziehung: 1999 >> 1 <<"}));
+}
+
+TEST(Struktur, DieKennungRundetHalbeZurGeradenZahl)
+{
+    const auto kennungNach = [](const std::string& jahrWoche) {
+        return pruefe(jahrWoche + ",02,08,10,12,22,35,46,3\r\nx").fehlerzeilen.at(0);
+    };
+    EXPECT_EQ(kennungNach("1998,50"), "Error 01 nach Ziehung: 1998 >> x <<");
+    EXPECT_EQ(kennungNach("1999,50"), "Error 01 nach Ziehung: 2000 >> x <<");
+    EXPECT_EQ(kennungNach("1998,49"), "Error 01 nach Ziehung: 1998 >> x <<");
+    EXPECT_EQ(kennungNach("1998;49"), "Error 01 nach Ziehung:  >> x <<");
+}
+
+TEST(Struktur, LeereDateiUndZeilenenden)
+{
+    EXPECT_EQ(pruefe("").korrekte, 0);
+    EXPECT_TRUE(pruefe("").fehlerzeilen.empty());
+    EXPECT_EQ(pruefe(kRichtig).korrekte, 1);
+    EXPECT_EQ(pruefe(kRichtig + "\n" + kRichtig + "\r" + kRichtig + "\r\n").korrekte, 3);
+    EXPECT_EQ(pruefe(kRichtig + "\r\n\r\n").fehlerzeilen.size(), 1u);
+    EXPECT_TRUE(pruefe(kRichtig + "\r\n\x1a").fehlerzeilen.empty());
+}
+
+TEST(Struktur, EineRiesigeZeileWirdGekuerztGezeigt)
+{
+    const Strukturbericht bericht = pruefe(std::string(1 << 20, '7'));
+    ASSERT_EQ(bericht.fehlerzeilen.size(), 1u);
+    EXPECT_LT(bericht.fehlerzeilen[0].size(), 300u);
+}
+
+TEST(Struktur, LaesstSichAnhalten)
+{
+    std::string bytes;
+    for (int i = 0; i < 300000; ++i)
+        bytes += kRichtig + "\r\n";
+    const Strukturbericht bericht = pruefeStruktur(bytes, [](const Strukturbericht&) { return false; });
+    EXPECT_FALSE(bericht.vollstaendig);
+    EXPECT_LT(bericht.korrekte, 300000);
+    EXPECT_EQ(bericht.letzterSatz, "2024/31");
+}
+
+TEST(Fehlernummer, NurInFehlerzeilen)
+{
+    EXPECT_EQ(fehlernummer("Error 39 nach Ziehung: 1998 >> x <<"), 39);
+    EXPECT_EQ(fehlernummer("Error 01 nach Ziehung: 1955/4X >>  <<"), 1);
+    EXPECT_EQ(fehlernummer(kStrukturRichtig), 0);
+    EXPECT_EQ(fehlernummer("Error 41"), 0);
+    EXPECT_EQ(fehlernummer(""), 0);
+}
+
+} // namespace

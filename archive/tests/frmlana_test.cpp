@@ -1,0 +1,98 @@
+#include "tools/drive/Buehnentest.h"
+
+#include <QFile>
+
+namespace {
+
+class Strukturbildschirm : public Buehnentest {
+protected:
+    QStringList zeilen(const char* liste) { return bedienung.zeilen(liste, 0, 100).zeilen; }
+};
+
+TEST_F(Strukturbildschirm, DasMusterIstFehlerfrei)
+{
+    starte();
+    oeffne("frmlana");
+    EXPECT_EQ(titel(), "Analyse der Gewinnzahldatei SALOTTO.DAT");
+    EXPECT_EQ(lies("Bezeichnung1"), "Überprüfung der Datensatzstruktur von Gewinnzahldatei SALOTTO.DAT");
+    EXPECT_FALSE(sichtbar("Liste2"));
+    klicke("Befehl2");
+    EXPECT_EQ(lies("Bezeichnung4"), QString("Korrekte Ziehungen: %1").arg(buehne.archiv.AnzahlZiehungen));
+    EXPECT_EQ(lies("Bezeichnung5"), "Falsche Ziehungen: 0");
+    EXPECT_EQ(zeilen("Liste1"), QStringList{"*** Alle Datensätze haben die richtige Struktur ***"});
+    EXPECT_EQ(lies("Bezeichnung6"), "2026/46");
+    waehle("Liste1", {0});
+    EXPECT_TRUE(sichtbar("Liste2"));
+    EXPECT_EQ(bedienung.gewaehlte("Liste2").zeilen, QStringList());
+}
+
+TEST_F(Strukturbildschirm, EinKlickAufDieFehlerzeileFindetDieBeschreibung)
+{
+    schreibe("MALOTTO.DAT", {"1986,23,01,02,03,04,05,06,00,0", "1986,24,01,02,03,04,05,55,00,0",
+                             "1986,25,01,02,03,04,05,06,06,0", "1986,26,01,02,03,04,05,06,00,"});
+    starte();
+    klicke("Option2");
+    oeffne("frmlana");
+    klicke("Befehl2");
+    EXPECT_EQ(lies("Bezeichnung4"), "Korrekte Ziehungen: 1");
+    EXPECT_EQ(lies("Bezeichnung5"), "Falsche Ziehungen: 3 >> Zur Fehlerbeschreibung -> klicke auf Fehlerlzeile <<");
+    EXPECT_EQ(zeilen("Liste1").value(0), "Error 36 nach Ziehung: 1986 >> 1986,24,01,02,03,04,05,55,00,0 <<");
+    for (const auto& [zeile, fehler] : {std::pair(0, 36), std::pair(1, 40), std::pair(2, 2)}) {
+        waehle("Liste1", {zeile});
+        EXPECT_EQ(bedienung.gewaehlte("Liste2").zeilen, QStringList{QString::number(fehler)});
+    }
+    EXPECT_EQ(lies("Liste2"), "Error 02: Datensatz hat weniger als 28 Zeichen.");
+}
+
+TEST_F(Strukturbildschirm, FehlerUndInfotafelHabenIhreZeilen)
+{
+    starte();
+    oeffne("frmlana");
+    EXPECT_EQ(bedienung.anzahl("Liste2").zeilen, QStringList{"41"});
+    EXPECT_EQ(zeilen("Liste2").value(0), " ");
+    EXPECT_EQ(zeilen("Liste2").value(5), "Error 05: ");
+    EXPECT_FALSE(sichtbar("Rahmen1"));
+    klicke("Befehl6");
+    EXPECT_TRUE(sichtbar("Rahmen1"));
+    EXPECT_EQ(zeilen("Liste3").size(), 13);
+    klicke("Befehl7");
+    EXPECT_FALSE(sichtbar("Rahmen1"));
+}
+
+TEST_F(Strukturbildschirm, EineFehlendeDateiMeldetSich)
+{
+    starte();
+    oeffne("frmlana");
+    QFile::remove(ordner.filePath("SALOTTO.DAT"));
+    klicke("Befehl2");
+    EXPECT_EQ(boxen(), QStringList{"info|Tombrix|ERROR 53: Die Ziehungsdatei xxLOTTO.DAT wurde nicht gefunden. Die "
+                                   "Datei xxLOTTO.DAT muß sich im gleichen Verzeichnis wie das Programm TOMBRIX.EXE "
+                                   "befinden."});
+}
+
+TEST_F(Strukturbildschirm, DieEditorenBekommenDieAktiveDatei)
+{
+    starte();
+    oeffne("frmlana");
+    for (const char* knopf : {"Befehl3", "Befehl4", "Befehl5"})
+        klicke(knopf);
+    EXPECT_EQ(buehne.oeffner.entnehme(), QStringList(3, ordner.filePath("SALOTTO.DAT")));
+}
+
+TEST_F(Strukturbildschirm, OhneEditorNenntDieBoxDasProgramm)
+{
+    starte();
+    oeffne("frmlana");
+    buehne.oeffner.scheitert = true;
+    for (const char* knopf : {"Befehl3", "Befehl4", "Befehl5"})
+        klicke(knopf);
+    EXPECT_EQ(boxen(), (QStringList{
+                           "info|Tombrix|ERROR 53: MS-Write wurde nicht gefunden. Verwenden Sie einen  vorhandenen "
+                           "ASCII-Text-Editor um die DateiSALOTTO.DAT zu aktualisieren.",
+                           "info|Tombrix|ERROR 53: DOS Editor EDIT.COM  wurde nicht gefunden. Verwenden Sie einen  "
+                           "vorhandenen ASCII-Editor um die Datei SALOTTO.DAT zu aktualisieren.",
+                           "info|Tombrix|ERROR 53: WordPad wurde nicht gefunden. Verwenden Sie einen  vorhandenen "
+                           "ASCII-Text-Editor um die Datei SALOTTO.DAT zu aktualisieren."}));
+}
+
+} // namespace

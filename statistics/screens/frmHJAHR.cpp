@@ -1,0 +1,113 @@
+#include "statistics/screens/frmHJAHR.h"
+
+#include "reports/logic/Seitenablage.h"
+#include "shell/elements/Lauf.h"
+#include "shell/elements/Stil.h"
+#include "shell/elements/Utf8.h"
+#include "shell/logic/Spielarttexte.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+constexpr auto kErklaerung = "Was wird nach dem Start geschehen?\n\n"
+                             "Es wird eine Html-Datei erzeugt die eine Tabelle enthält.\n"
+                             "Die Tabelle zeigt für jedes Spieljahr die Häufigkeitsverteilung der gezogenen\n"
+                             "Gewinnzahlen. Die Maxima pro Spieljahr werden \"rot\", die Minima \"blau\"  \n"
+                             "dargestellt. Nach Fertigstellung der Html-Datei wird die Datei mit dem  \n"
+                             "Standardbrowser geöffnet.\n\n"
+                             "Legende: ZZ -> Zusatzzahl";
+
+constexpr auto kInfo =
+    "In den Statistiken zur Häufigkeit der Gewinnzahlen oder der Superzahl pro Spieljahr findet man oft kleine "
+    "Abweichungen. \n\n"
+    "Die 52. Ziehung im Spieljahr 2010 (2010/52) fand erst am 01.01.2011 statt.\n"
+    "Die 53. Ziehung im Spieljahr 1992 (1992/53) fand erst am 02.01.1993 statt.\n"
+    "Die erste Ziehung für das Jahr 2015 (2015/01) fand schon am 31.12.2014 statt.";
+
+} // namespace
+
+frmHJAHR::frmHJAHR(Umgebung& umgebung)
+    : Bildschirm(umgebung, "frmHJAHR", "Häufigkeit der Gewinnzahlen pro Spieljahr (als HTML-Datei)")
+{
+    Bezeichnung1 = bezeichnung("Bezeichnung1");
+    Bezeichnung2 = bezeichnung("Bezeichnung2", kErklaerung);
+    Bezeichnung3 = bezeichnung("Bezeichnung3");
+    lblDorW = bezeichnung("lblDorW",
+                          "Für die Berechnung das Ziehungsdatum oder die Spielwoche verwenden? (siehe HelpButton)");
+    optDatumOderWoche[0] = option("optDatumOderWoche(0)", "Ziehungsdatum");
+    optDatumOderWoche[1] = option("optDatumOderWoche(1)", "Spielwoche");
+    optDatumOderWoche[0]->setChecked(true);
+    Befehl1 = befehl("Befehl1", "&<<");
+    Befehl2 = befehl("Befehl2", qt(zzKurzbefehl(ZZModus::Ohne)));
+    Befehl3 = befehl("Befehl3", qt(zzKurzbefehl(ZZModus::Mit)));
+    Befehl4 = befehl("Befehl4", qt(zzKurzbefehl(ZZModus::Nur)));
+    cmdInfo = befehl("cmdInfo", "?");
+    alsUeberschrift(Bezeichnung1);
+
+    // clang-format off
+    setzeInhalt(spalte({
+        Bezeichnung1,
+        rahmen("Rahmen1", "", spalte({Bezeichnung2})),
+        Bezeichnung3,
+        rahmen("Rahmen2", "", spalte({
+            lblDorW,
+            zeile({optDatumOderWoche[0], optDatumOderWoche[1], luecke(), cmdInfo}),
+        })),
+        luecke(),
+        zeile({
+            rahmen("Rahmen3", "Auswertung starten", zeile({Befehl2, Befehl3, Befehl4})),
+            luecke(),
+            spalte({luecke(), Befehl1}),
+        }),
+    }));
+    // clang-format on
+
+    bei(Befehl1, [this] { schliesse(); });
+    bei(Befehl2, [this] { erzeuge(ZZModus::Ohne); });
+    bei(Befehl3, [this] { erzeuge(ZZModus::Mit); });
+    bei(Befehl4, [this] { erzeuge(ZZModus::Nur); });
+    bei(cmdInfo, [this] { this->umgebung().boxen.info(kInfotitel, kInfo); });
+}
+
+void frmHJAHR::beimZeigen()
+{
+    Bezeichnung1->setText(qt(spielartGross(umgebung().archiv.Spielart)));
+    Bezeichnung3->setText(qt(gespeicherteZiehungen(umgebung().archiv)));
+}
+
+void frmHJAHR::erzeuge(ZZModus modus)
+{
+    std::optional<Meldung> fehler;
+    {
+        Lauf lauf(*this);
+        if (!lauf)
+            return;
+        ergebnis_ = yearTable(umgebung().archiv, modus, optDatumOderWoche[0]->isChecked());
+        fehler = legeSeiteAb(ordner(), datei(), jahrestabellenSeite(ergebnis_));
+    }
+    if (fehler)
+        umgebung().boxen.info(fehler->titel.empty() ? kProgrammtitel : qt(fehler->titel), qt(fehler->text));
+    else
+        zeigeSeite();
+}
+
+void frmHJAHR::zeigeSeite()
+{
+    const QString seite = qt((ordner() / datei()).string());
+    setzeTitel("Gespeichert: " + seite);
+    umgebung().oeffner.oeffne(seite);
+}
+
+std::filesystem::path frmHJAHR::ordner() const
+{
+    return umgebung().archiv.ProgrammVerzeichnis + std::string(kJahrestabellenOrdner);
+}
+
+std::string frmHJAHR::datei() const
+{
+    return jahrestabellenDatei(ergebnis_.Spielart, ergebnis_.ZaehlModus);
+}

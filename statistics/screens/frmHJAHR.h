@@ -1,0 +1,28 @@
+#pragma once
+
+#include "shell/elements/Bildschirm.h"
+#include "statistics/logic/Jahrestabelle.h"
+
+#include <filesystem>
+
+/// Writes the counts of all numbers in each year as an HTML page and opens it.
+class frmHJAHR final : public Bildschirm {
+public:
+    explicit frmHJAHR(Umgebung& umgebung);
+
+    /// The last table; without rows before the first one.
+    const Jahrestabelle& ergebnis() const { return ergebnis_; }
+
+    void beimZeigen() override;
+
+private:
+    void erzeuge(ZZModus modus);
+    void zeigeSeite();
+    std::filesystem::path ordner() const;
+    std::string datei() const;
+
+    Jahrestabelle ergebnis_;
+    std::array<QRadioButton*, 2> optDatumOderWoche{};
+    QLabel *Bezeichnung1, *Bezeichnung2, *Bezeichnung3, *lblDorW;
+    QPushButton *Befehl1, *Befehl2, *Befehl3, *Befehl4, *cmdInfo;
+};
