@@ -26,6 +26,8 @@ bool Programm::notify(QObject* ziel, QEvent* ereignis)
         return QApplication::notify(ziel, ereignis);
     } catch (const std::exception& fehler) {
         qWarning("%s", fehler.what());
-        return false;
+    } catch (...) {
+        qWarning("unbekannter Fehler");
     }
+    return false;
 }

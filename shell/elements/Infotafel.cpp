@@ -3,6 +3,7 @@
 #include "shell/elements/Bloecke.h"
 #include "shell/elements/Stil.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -38,4 +39,12 @@ void Infotafel::zeige()
     show();
     raise();
     findChild<QPushButton*>("InfotafelOk")->setFocus();
+}
+
+void Infotafel::keyPressEvent(QKeyEvent* ereignis)
+{
+    if (ereignis->key() == Qt::Key_Escape)
+        hide();
+    else
+        QFrame::keyPressEvent(ereignis);
 }

@@ -262,6 +262,10 @@ TEST_F(Haeufigkeitsbildschirm, ErklaertSich)
     EXPECT_TRUE(lies("InfotafelText").contains("Mittwochslotto (A+B)"));
     klicke("InfotafelOk");
     EXPECT_FALSE(sichtbar("Infotafel"));
+    klicke("Befehl7");
+    tippe("InfotafelOk", "Esc");
+    EXPECT_FALSE(sichtbar("Infotafel"));
+    EXPECT_TRUE(buehne.bildschirme.geladen("frmSTAT1")->isVisible());
     klicke("Befehl11");
     EXPECT_TRUE(boxen().value(0).startsWith("info|Lotto-Info|"));
 }
