@@ -149,18 +149,18 @@ int pruefeDatensatz(std::string_view satz)
 Strukturbericht pruefeStruktur(std::string_view bytes, const std::function<bool(const Strukturbericht&)>& zwischenstand)
 {
     Strukturbericht bericht;
-    std::string vorherige = "1955/4X";
+    std::string VorherigeKorrekte = "1955/4X";
     Takt takt([&](std::uint64_t) { return !zwischenstand || zwischenstand(bericht); });
     std::string_view rest = bytes.substr(0, bytes.find('\x1a'));
     for (std::uint64_t nr = 1; !rest.empty(); ++nr) {
         const std::string_view satz = naechsteZeile(rest);
         bericht.letzterSatz = jahrUndWocheVon(satz);
         if (const int fehler = pruefeDatensatz(satz)) {
-            bericht.fehlerzeilen.push_back("Error " + Format(fehler, "00") + " nach Ziehung: " + vorherige + " >> " +
-                                           std::string(satz.substr(0, kHoechstensGezeigt)) + " <<");
+            bericht.fehlerzeilen.push_back("Error " + Format(fehler, "00") + " nach Ziehung: " + VorherigeKorrekte +
+                                           " >> " + std::string(satz.substr(0, kHoechstensGezeigt)) + " <<");
         } else {
-            ++bericht.korrekte;
-            vorherige = kennung(satz);
+            ++bericht.KorrekteZiehungen;
+            VorherigeKorrekte = kennung(satz);
         }
         if (!takt.schritt(nr)) {
             bericht.vollstaendig = false;

@@ -21,7 +21,7 @@ extern const std::array<std::string_view, 41> kStrukturfehler;
 /// What a check of a whole file found.
 struct Strukturbericht {
     std::vector<std::string> fehlerzeilen; ///< "Error 39 nach Ziehung: 1998 >> ... <<", a faulty record each
-    std::int32_t korrekte = 0;             ///< number of records without a fault
+    std::int32_t KorrekteZiehungen = 0;    ///< number of records without a fault
     std::string letzterSatz;               ///< "jjjj/sw" as the last record writes it
     bool vollstaendig = true;              ///< false if the check was stopped
 };

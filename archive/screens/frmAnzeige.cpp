@@ -191,8 +191,8 @@ void frmAnzeige::verbinde()
     bei(Befehl1, [this] { schliesse(); });
     bei(Befehl2, [this] { zeigeInfo(true); });
     bei(Command1, [this] { zeigeInfo(false); });
-    bei(Befehl3, [this] { oeffneEditor("MS-Write"); });
-    bei(cmdNotepad, [this] { oeffneEditor("Notepad"); });
+    bei(Befehl3, [this] { oeffneEditor("MS-Write wurde nicht gefunden. Verwenden Sie einen "); });
+    bei(cmdNotepad, [this] { oeffneEditor("Notepad wurde nicht gefunden. Verwenden Sie einen "); });
     bei(Befehl5, [this] { umgebung().boxen.info(kProgrammtitel, AnzeigeTexte::kHilfe); });
     bei(Befehl7, [this] { schalteAufMenue(Samstagslotto); });
     bei(Befehl10, [this] { schalteAufMenue(Mittwochslotto); });
@@ -373,13 +373,10 @@ void frmAnzeige::ladeNeu()
     Befehl9->setEnabled(false);
 }
 
-void frmAnzeige::oeffneEditor(const QString& programm)
+void frmAnzeige::oeffneEditor(const QString& meldung)
 {
-    const QString meldung = programm +
-                            " wurde nicht gefunden. Verwenden Sie einen  vorhandenen ASCII-Text-Editor um die "
-                            "Datei " +
-                            dateiname() + " zu aktualisieren.";
-    if (oeffneImEditor(umgebung(), meldung))
+    const QString rest = " vorhandenen ASCII-Text-Editor um die Datei " + dateiname() + " zu aktualisieren.";
+    if (oeffneImEditor(umgebung(), meldung + rest))
         Befehl9->setEnabled(true);
 }
 

@@ -35,7 +35,7 @@ private:
     void schalteAufMenue(std::int16_t spielart);
     void schalteAufMittwochB();
     void ladeNeu();
-    void oeffneEditor(const QString& programm);
+    void oeffneEditor(const QString& meldung);
     void zeigeInfo(bool zeigen);
     QString dateiname() const;
 

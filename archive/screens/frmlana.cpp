@@ -34,15 +34,14 @@ const std::vector<std::string> kFormat{
 } // namespace
 
 frmlana::frmlana(Umgebung& umgebung)
-    : Bildschirm(umgebung, "frmlana",
-                 "Analyse der Gewinnzahldatei " + qt(ziehungsdateiName(umgebung.archiv.Spielart))),
+    : Bildschirm(umgebung, "frmlana", "Analyse der Gewinnzahldatei " + qt(ziehungsdateiName(umgebung.archiv.Spielart))),
       Ziehungsdatei(qt(ziehungsdateiName(umgebung.archiv.Spielart)))
 {
     Bezeichnung1 =
         bezeichnung("Bezeichnung1", "Überprüfung der Datensatzstruktur von Gewinnzahldatei " + Ziehungsdatei);
-    Bezeichnung2 = listenkopf(
-        "Bezeichnung2",
-        "Fehlernummer                                                                   falscher Datensatz");
+    Bezeichnung2 =
+        listenkopf("Bezeichnung2",
+                   "Fehlernummer                                                                   falscher Datensatz");
     Bezeichnung3 = listenkopf("Bezeichnung3", " JJSW des vorherigen, korrekten Datensatzess");
     Bezeichnung4 = bezeichnung("Bezeichnung4", "Korrekte Ziehungen:");
     Bezeichnung5 = bezeichnung("Bezeichnung5", "Falsche Ziehungen:");
@@ -76,9 +75,16 @@ frmlana::frmlana(Umgebung& umgebung)
 
     bei(Befehl1, [this] { schliesse(); });
     bei(Befehl2, [this] { pruefe(); });
-    bei(Befehl3, [this] { oeffneEditor("MS-Write", "vorhandenen ASCII-Text-Editor", "um die Datei"); });
-    bei(Befehl4, [this] { oeffneEditor("DOS Editor EDIT.COM ", "vorhandenen ASCII-Editor", "um die Datei "); });
-    bei(Befehl5, [this] { oeffneEditor("WordPad", "vorhandenen ASCII-Text-Editor", "um die Datei "); });
+    bei(Befehl3, [this] {
+        oeffneEditor("MS-Write wurde nicht gefunden. Verwenden Sie einen  vorhandenen ASCII-Text-Editor um die Datei");
+    });
+    bei(Befehl4, [this] {
+        oeffneEditor("DOS Editor EDIT.COM  wurde nicht gefunden. Verwenden Sie einen  vorhandenen ASCII-Editor um die "
+                     "Datei ");
+    });
+    bei(Befehl5, [this] {
+        oeffneEditor("WordPad wurde nicht gefunden. Verwenden Sie einen  vorhandenen ASCII-Text-Editor um die Datei ");
+    });
     bei(Befehl6, [this] { Rahmen1->show(); });
     bei(Befehl7, [this] { Rahmen1->hide(); });
     Liste1->beiAuswahl = [this] { zeigeFehler(); };
@@ -120,7 +126,7 @@ void frmlana::zeigeErgebnis()
 {
     const std::size_t falsche = ergebnis_.fehlerzeilen.size();
     Bezeichnung6->setText(qt(ergebnis_.letzterSatz));
-    Bezeichnung4->setText("Korrekte Ziehungen: " + QString::number(ergebnis_.korrekte));
+    Bezeichnung4->setText("Korrekte Ziehungen: " + QString::number(ergebnis_.KorrekteZiehungen));
     Bezeichnung5->setText("Falsche Ziehungen: " + QString::number(falsche) +
                           (falsche > 0 ? " >> Zur Fehlerbeschreibung -> klicke auf Fehlerlzeile <<" : ""));
     if (falsche > 0)
@@ -139,8 +145,7 @@ void frmlana::zeigeFehler()
         Liste2->zeigeZeile(nummer);
 }
 
-void frmlana::oeffneEditor(const QString& programm, const QString& editorart, const QString& vorDatei)
+void frmlana::oeffneEditor(const QString& meldung)
 {
-    oeffneImEditor(umgebung(), programm + " wurde nicht gefunden. Verwenden Sie einen  " + editorart + " " + vorDatei +
-                                   Ziehungsdatei + " zu aktualisieren.");
+    oeffneImEditor(umgebung(), meldung + Ziehungsdatei + " zu aktualisieren.");
 }

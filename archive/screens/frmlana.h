@@ -15,7 +15,8 @@ private:
     void pruefe();
     void zeigeErgebnis();
     void zeigeFehler();
-    void oeffneEditor(const QString& programm, const QString& editorart, const QString& vorDatei);
+    /// `meldung` is shown in front of the file name where there is no editor.
+    void oeffneEditor(const QString& meldung);
 
     const QString Ziehungsdatei;
     Strukturbericht ergebnis_;

@@ -90,7 +90,7 @@ TEST(Struktur, FehlerzeileNenntDenSatzDavor)
 {
     const Strukturbericht bericht =
         pruefe("falsch\r\n1998,13,02,08,10,12,22,35,46,3\r\nkurz\r\n1998,51,02,08,10,12,22,35,46,3\r\n1\r\n");
-    EXPECT_EQ(bericht.korrekte, 2);
+    EXPECT_EQ(bericht.KorrekteZiehungen, 2);
     EXPECT_EQ(bericht.fehlerzeilen,
               (std::vector<std::string>{"Error 01 nach Ziehung: 1955/4X >> falsch <<",
                                         "Error 01 nach Ziehung: 1998 >> kurz <<", "Error 02 nach Ziehung: 1999 >> 1 <<"}));
@@ -109,10 +109,10 @@ TEST(Struktur, DieKennungRundetHalbeZurGeradenZahl)
 
 TEST(Struktur, LeereDateiUndZeilenenden)
 {
-    EXPECT_EQ(pruefe("").korrekte, 0);
+    EXPECT_EQ(pruefe("").KorrekteZiehungen, 0);
     EXPECT_TRUE(pruefe("").fehlerzeilen.empty());
-    EXPECT_EQ(pruefe(kRichtig).korrekte, 1);
-    EXPECT_EQ(pruefe(kRichtig + "\n" + kRichtig + "\r" + kRichtig + "\r\n").korrekte, 3);
+    EXPECT_EQ(pruefe(kRichtig).KorrekteZiehungen, 1);
+    EXPECT_EQ(pruefe(kRichtig + "\n" + kRichtig + "\r" + kRichtig + "\r\n").KorrekteZiehungen, 3);
     EXPECT_EQ(pruefe(kRichtig + "\r\n\r\n").fehlerzeilen.size(), 1u);
     EXPECT_TRUE(pruefe(kRichtig + "\r\n\x1a").fehlerzeilen.empty());
 }
@@ -131,7 +131,7 @@ TEST(Struktur, LaesstSichAnhalten)
         bytes += kRichtig + "\r\n";
     const Strukturbericht bericht = pruefeStruktur(bytes, [](const Strukturbericht&) { return false; });
     EXPECT_FALSE(bericht.vollstaendig);
-    EXPECT_LT(bericht.korrekte, 300000);
+    EXPECT_LT(bericht.KorrekteZiehungen, 300000);
     EXPECT_EQ(bericht.letzterSatz, "2024/31");
 }
 
