@@ -1,4 +1,4 @@
-#include "archive/logic/Ziehungsdatei.h"
+#include "bench/Samstagsarchiv.h"
 #include "statistics/logic/Haeufigkeit.h"
 
 #include <array>
@@ -11,18 +11,6 @@
 // beside six passes, one for each column. Run from the root of the tree: the real draws lie in ../shared/daten.
 
 namespace {
-
-const ZiehungsArchiv& archiv()
-{
-    static const ZiehungsArchiv geladen = [] {
-        ZiehungsArchiv neu;
-        neu.Spielart = Samstagslotto;
-        neu.ProgrammVerzeichnis = "../shared/daten/";
-        LadeZiehungsdatei(neu, {});
-        return neu;
-    }();
-    return geladen;
-}
 
 constexpr Ziehungsbereich kAlleJahre{1955, 9999};
 
@@ -59,22 +47,22 @@ std::array<std::int16_t, 49> zaehleSpaltenweise(const ZiehungsArchiv& ziehungen,
 void programm(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(zaehleHaeufigkeit(archiv(), kAlleJahre, ZZModus::Ohne));
-    stand.SetItemsProcessed(stand.iterations() * archiv().AnzahlZiehungen);
+        benchmark::DoNotOptimize(zaehleHaeufigkeit(samstagsarchiv(), kAlleJahre, ZZModus::Ohne));
+    stand.SetItemsProcessed(stand.iterations() * samstagsarchiv().AnzahlZiehungen);
 }
 
 void spaltenweise(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(zaehleSpaltenweise(archiv(), kAlleJahre));
-    stand.SetItemsProcessed(stand.iterations() * archiv().AnzahlZiehungen);
+        benchmark::DoNotOptimize(zaehleSpaltenweise(samstagsarchiv(), kAlleJahre));
+    stand.SetItemsProcessed(stand.iterations() * samstagsarchiv().AnzahlZiehungen);
 }
 
 void mitTafel(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(zaehleMitTafel(archiv(), kAlleJahre));
-    stand.SetItemsProcessed(stand.iterations() * archiv().AnzahlZiehungen);
+        benchmark::DoNotOptimize(zaehleMitTafel(samstagsarchiv(), kAlleJahre));
+    stand.SetItemsProcessed(stand.iterations() * samstagsarchiv().AnzahlZiehungen);
 }
 
 BENCHMARK(programm);
@@ -85,13 +73,13 @@ BENCHMARK(spaltenweise);
 
 int main(int argc, char** argv)
 {
-    if (archiv().AnzahlZiehungen == 0) {
+    if (samstagsarchiv().AnzahlZiehungen == 0) {
         std::fputs("no draws in ../shared/daten\n", stderr);
         return EXIT_FAILURE;
     }
-    const auto soll = zaehleMitTafel(archiv(), kAlleJahre);
-    if (zaehleHaeufigkeit(archiv(), kAlleJahre, ZZModus::Ohne).anzahl != soll ||
-        zaehleSpaltenweise(archiv(), kAlleJahre) != soll) {
+    const auto soll = zaehleMitTafel(samstagsarchiv(), kAlleJahre);
+    if (zaehleHaeufigkeit(samstagsarchiv(), kAlleJahre, ZZModus::Ohne).anzahl != soll ||
+        zaehleSpaltenweise(samstagsarchiv(), kAlleJahre) != soll) {
         std::fputs("the counts differ\n", stderr);
         return EXIT_FAILURE;
     }

@@ -1,4 +1,4 @@
-#include "archive/logic/Ziehungsdatei.h"
+#include "bench/Samstagsarchiv.h"
 #include "statistics/logic/JahrUndWocheZeilen.h"
 #include "statistics/logic/Jahrestabelle.h"
 #include "statistics/logic/Wochenstatistik.h"
@@ -15,32 +15,20 @@
 
 namespace {
 
-const ZiehungsArchiv& archiv()
-{
-    static const ZiehungsArchiv geladen = [] {
-        ZiehungsArchiv neu;
-        neu.Spielart = Samstagslotto;
-        neu.ProgrammVerzeichnis = "../shared/daten/";
-        LadeZiehungsdatei(neu, {});
-        return neu;
-    }();
-    return geladen;
-}
-
 constexpr int kZahl = 13;
 
 std::size_t letzte()
 {
-    return static_cast<std::size_t>(archiv().AnzahlZiehungen);
+    return static_cast<std::size_t>(samstagsarchiv().AnzahlZiehungen);
 }
 
 bool enthaelt(std::size_t nr, int zahl)
 {
-    for (const std::int32_t eine : archiv().gewinnzahlen(nr)) {
+    for (const std::int32_t eine : samstagsarchiv().gewinnzahlen(nr)) {
         if (eine == zahl)
             return true;
     }
-    return archiv().zz[nr] == zahl;
+    return samstagsarchiv().zz[nr] == zahl;
 }
 
 std::int32_t zaehlePlump(const ZiehungsArchiv::Spalte& schluessel, int wert, int zahl)
@@ -54,9 +42,9 @@ std::int32_t zaehlePlump(const ZiehungsArchiv::Spalte& schluessel, int wert, int
 std::map<int, std::array<std::int32_t, 49>> jahrestabellePlump()
 {
     std::map<int, std::array<std::int32_t, 49>> jahre;
-    for (int jahr = archiv().jjjj[1]; jahr <= archiv().jjjj[letzte()]; ++jahr) {
+    for (int jahr = samstagsarchiv().jjjj[1]; jahr <= samstagsarchiv().jjjj[letzte()]; ++jahr) {
         for (int zahl = 1; zahl <= 49; ++zahl)
-            jahre[jahr][static_cast<std::size_t>(zahl - 1)] = zaehlePlump(archiv().jjjj, jahr, zahl);
+            jahre[jahr][static_cast<std::size_t>(zahl - 1)] = zaehlePlump(samstagsarchiv().jjjj, jahr, zahl);
     }
     return jahre;
 }
@@ -65,13 +53,13 @@ HaeufigkeitProWoche wochenPlump()
 {
     HaeufigkeitProWoche wochen{};
     for (int woche = 1; woche <= kSpielwochen; ++woche)
-        wochen[static_cast<std::size_t>(woche - 1)] = zaehlePlump(archiv().sw, woche, kZahl);
+        wochen[static_cast<std::size_t>(woche - 1)] = zaehlePlump(samstagsarchiv().sw, woche, kZahl);
     return wochen;
 }
 
 bool gleich()
 {
-    const Zahlentabelle tabelle = yearTable(archiv(), ZZModus::Mit, false).tabelle;
+    const Zahlentabelle tabelle = yearTable(samstagsarchiv(), ZZModus::Mit, false).tabelle;
     const auto plump = jahrestabellePlump();
     for (const Zahlenzeile& zeile : tabelle.zeilen) {
         for (std::size_t i = 0; i < zeile.zellen.size(); ++i) {
@@ -79,19 +67,19 @@ bool gleich()
                 return false;
         }
     }
-    return countPerWeek(archiv(), kZahl, ZZModus::Mit) == wochenPlump();
+    return countPerWeek(samstagsarchiv(), kZahl, ZZModus::Mit) == wochenPlump();
 }
 
 void jahreUndWochen(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(werteJahrUndWocheAus(archiv(), kZahl, ZZModus::Mit));
+        benchmark::DoNotOptimize(werteJahrUndWocheAus(samstagsarchiv(), kZahl, ZZModus::Mit));
 }
 
 void jahreUndWochenMitListen(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand) {
-        const JahrUndWoche auswertung = werteJahrUndWocheAus(archiv(), kZahl, ZZModus::Mit);
+        const JahrUndWoche auswertung = werteJahrUndWocheAus(samstagsarchiv(), kZahl, ZZModus::Mit);
         benchmark::DoNotOptimize(jahreszeilen(auswertung.proJahr));
         benchmark::DoNotOptimize(wochenzeilen(auswertung.proWoche));
     }
@@ -100,7 +88,7 @@ void jahreUndWochenMitListen(benchmark::State& stand)
 void detailsMitListe(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(detailzeilen(trefferProJahr(archiv(), kZahl, ZZModus::Mit)));
+        benchmark::DoNotOptimize(detailzeilen(trefferProJahr(samstagsarchiv(), kZahl, ZZModus::Mit)));
 }
 
 void wochenPlumpeSchleife(benchmark::State& stand)
@@ -112,7 +100,7 @@ void wochenPlumpeSchleife(benchmark::State& stand)
 void spielwocheMitListen(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand) {
-        const Wochenstatistik statistik = weekStatistics(archiv(), 41, true);
+        const Wochenstatistik statistik = weekStatistics(samstagsarchiv(), 41, true);
         benchmark::DoNotOptimize(ziehungszeilen(statistik));
         benchmark::DoNotOptimize(zeilenNachHaeufigkeit(statistik));
         benchmark::DoNotOptimize(zeilenNachZahl(statistik));
@@ -122,13 +110,13 @@ void spielwocheMitListen(benchmark::State& stand)
 void jahrestabelle(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(yearTable(archiv(), ZZModus::Mit, stand.range(0) != 0));
+        benchmark::DoNotOptimize(yearTable(samstagsarchiv(), ZZModus::Mit, stand.range(0) != 0));
 }
 
 void jahrestabelleMitSeite(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(jahrestabellenSeite(yearTable(archiv(), ZZModus::Mit, true)));
+        benchmark::DoNotOptimize(jahrestabellenSeite(yearTable(samstagsarchiv(), ZZModus::Mit, true)));
 }
 
 void jahrestabellePlumpeSchleife(benchmark::State& stand)
@@ -150,7 +138,7 @@ BENCHMARK(jahrestabellePlumpeSchleife);
 
 int main(int argc, char** argv)
 {
-    if (archiv().AnzahlZiehungen == 0) {
+    if (samstagsarchiv().AnzahlZiehungen == 0) {
         std::fputs("no draws in ../shared/daten\n", stderr);
         return EXIT_FAILURE;
     }

@@ -13,7 +13,6 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstddef>
-#include <cstdio>
 #include <cstdlib>
 #include <malloc.h>
 #include <string>

@@ -1,4 +1,4 @@
-#include "archive/logic/Ziehungsdatei.h"
+#include "bench/Samstagsarchiv.h"
 #include "statistics/logic/AbstandListe.h"
 #include "statistics/logic/AbstandMaximum.h"
 #include "statistics/logic/ZuletztTafel.h"
@@ -13,18 +13,6 @@
 // ../shared/daten.
 
 namespace {
-
-const ZiehungsArchiv& archiv()
-{
-    static const ZiehungsArchiv geladen = [] {
-        ZiehungsArchiv neu;
-        neu.Spielart = Samstagslotto;
-        neu.ProgrammVerzeichnis = "../shared/daten/";
-        LadeZiehungsdatei(neu, {});
-        return neu;
-    }();
-    return geladen;
-}
 
 ZZModus modus(std::int64_t wert)
 {
@@ -50,22 +38,23 @@ ZuletztGezogen zuletztEinfach(const ZiehungsArchiv& ziehungen, std::int32_t von,
 void zuletzt(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(
-            zuletztGezogen(archiv(), suchbeginn(Samstagslotto), archiv().AnzahlZiehungen, modus(stand.range(0))));
+        benchmark::DoNotOptimize(zuletztGezogen(samstagsarchiv(), suchbeginn(Samstagslotto),
+                                                samstagsarchiv().AnzahlZiehungen, modus(stand.range(0))));
 }
 
 void zuletztPlain(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(
-            zuletztEinfach(archiv(), suchbeginn(Samstagslotto), archiv().AnzahlZiehungen, modus(stand.range(0))));
+        benchmark::DoNotOptimize(zuletztEinfach(samstagsarchiv(), suchbeginn(Samstagslotto),
+                                                samstagsarchiv().AnzahlZiehungen, modus(stand.range(0))));
 }
 
 /// All that a press of a start button computes: search, marks, texts of the cells and of both lists.
 void zuletztMitListen(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand) {
-        const auto auswertung = werteZuletztAus(archiv(), archiv().AnzahlZiehungen, modus(stand.range(0)));
+        const auto auswertung =
+            werteZuletztAus(samstagsarchiv(), samstagsarchiv().AnzahlZiehungen, modus(stand.range(0)));
         benchmark::DoNotOptimize(zuletztMarken(auswertung));
         benchmark::DoNotOptimize(zuletztTafel(auswertung, ZuletztAnsicht::JahrUndWoche));
     }
@@ -74,14 +63,14 @@ void zuletztMitListen(benchmark::State& stand)
 void abstand(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(werteAbstandAus(archiv(), 49, modus(stand.range(0))));
+        benchmark::DoNotOptimize(werteAbstandAus(samstagsarchiv(), 49, modus(stand.range(0))));
 }
 
 /// All that a click on a number computes: search and the texts of all cells of the list.
 void abstandMitZellen(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand) {
-        const AbstandAuswertung auswertung = werteAbstandAus(archiv(), 49, modus(stand.range(0)));
+        const AbstandAuswertung auswertung = werteAbstandAus(samstagsarchiv(), 49, modus(stand.range(0)));
         for (std::size_t i = 0; i < auswertung.treffer.size(); ++i)
             benchmark::DoNotOptimize(abstandZellen(auswertung, i));
     }
@@ -90,13 +79,13 @@ void abstandMitZellen(benchmark::State& stand)
 void maximum(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(laengsterAbstand(archiv(), modus(stand.range(0))));
+        benchmark::DoNotOptimize(laengsterAbstand(samstagsarchiv(), modus(stand.range(0))));
 }
 
 void maximumPlain(benchmark::State& stand)
 {
     for ([[maybe_unused]] auto _ : stand)
-        benchmark::DoNotOptimize(laengsterAbstandEinfach(archiv(), modus(stand.range(0))));
+        benchmark::DoNotOptimize(laengsterAbstandEinfach(samstagsarchiv(), modus(stand.range(0))));
 }
 
 BENCHMARK(zuletzt)->DenseRange(1, 3)->Unit(benchmark::kMicrosecond);
@@ -111,9 +100,9 @@ BENCHMARK(maximumPlain)->DenseRange(1, 3)->Unit(benchmark::kMicrosecond);
 bool stimmen()
 {
     for (const ZZModus jeder : {ZZModus::Ohne, ZZModus::Mit, ZZModus::Nur}) {
-        if (zuletztGezogen(archiv(), 1, archiv().AnzahlZiehungen, jeder) !=
-                zuletztEinfach(archiv(), 1, archiv().AnzahlZiehungen, jeder) ||
-            laengsterAbstand(archiv(), jeder) != laengsterAbstandEinfach(archiv(), jeder))
+        if (zuletztGezogen(samstagsarchiv(), 1, samstagsarchiv().AnzahlZiehungen, jeder) !=
+                zuletztEinfach(samstagsarchiv(), 1, samstagsarchiv().AnzahlZiehungen, jeder) ||
+            laengsterAbstand(samstagsarchiv(), jeder) != laengsterAbstandEinfach(samstagsarchiv(), jeder))
             return false;
     }
     return true;
@@ -123,7 +112,7 @@ bool stimmen()
 
 int main(int argc, char** argv)
 {
-    if (archiv().AnzahlZiehungen == 0) {
+    if (samstagsarchiv().AnzahlZiehungen == 0) {
         std::fputs("no draws in ../shared/daten\n", stderr);
         return EXIT_FAILURE;
     }

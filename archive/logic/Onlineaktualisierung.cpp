@@ -48,6 +48,12 @@ bool istDasselbe(const fs::path& a, const fs::path& b)
     return fs::equivalent(a, b, egal);
 }
 
+bool hatGroesse(const fs::path& datei, std::int64_t bytes)
+{
+    std::error_code fehler;
+    return fs::file_size(datei, fehler) == static_cast<std::uintmax_t>(bytes) && !fehler;
+}
+
 void entferne(const fs::path& pfad)
 {
     std::error_code egal;
@@ -132,13 +138,23 @@ std::string Onlineaktualisierung::empfangsordner() const
     return mitTrenner(empfang_.string());
 }
 
-Onlineausgang Onlineaktualisierung::schliesseAb()
+Onlineausgang Onlineaktualisierung::schliesseAb(std::int64_t empfangeneBytes)
 {
-    const fs::path neue = empfangene();
-    const Onlineausgang ausgang = neue.empty() ? Onlineausgang::KeineNeue : lege(neue);
+    const Onlineausgang ausgang = urteile(empfangeneBytes);
     if (aufgabe_ != Onlineaufgabe::Zip || ausgang != Onlineausgang::Uebernommen)
         stelleHer();
     return ausgang;
+}
+
+Onlineausgang Onlineaktualisierung::urteile(std::int64_t empfangeneBytes)
+{
+    const fs::path neue = empfangene();
+    if (neue.empty())
+        return Onlineausgang::KeineNeue;
+    // A text that the full disk has cut at a line end would pass the count.
+    if (!hatGroesse(neue, empfangeneBytes))
+        return istEigene(neue) && aufgabe_ != Onlineaufgabe::Zip ? Onlineausgang::Abgewiesen : Onlineausgang::KeineNeue;
+    return lege(neue);
 }
 
 /// The file that has come; empty if none has.

@@ -43,13 +43,17 @@ public:
     /// The folder for the transfer, with a trailing separator.
     std::string empfangsordner() const;
 
-    /// Looks at what has come and brings the files in their final state. A Ziehungsdatei is accepted if it can be read,
-    /// has a draw and no fewer than the old one; its old content then stays as "<name>.alt". Without a new file the
-    /// copy goes away again, or takes the place of the file if that was missing from the beginning.
-    Onlineausgang schliesseAb();
+    /// Looks at what has come and brings the files in their final state. `empfangeneBytes` came from the server; if the
+    /// disk has not taken them all, the file counts as broken.
+    ///
+    /// A Ziehungsdatei is accepted if it can be read, has a draw and no fewer than the old one; its old content then
+    /// stays as "<name>.alt". Without a new file the copy goes away again, or takes the place of the file if that was
+    /// missing from the beginning.
+    Onlineausgang schliesseAb(std::int64_t empfangeneBytes);
 
 private:
     std::filesystem::path empfangene() const;
+    Onlineausgang urteile(std::int64_t empfangeneBytes);
     bool istEigene(const std::filesystem::path& neue) const;
     Onlineausgang lege(const std::filesystem::path& neue);
     Onlineausgang legeZip(const std::filesystem::path& neue);

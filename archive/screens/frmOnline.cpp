@@ -156,7 +156,7 @@ bool frmOnline::uebertrage(Onlineaktualisierung& aktualisierung, Onlineaufgabe a
     const QString quelle = quellen.at(static_cast<std::size_t>(aufgabe))->text();
     dl.Download(utf8(quelle), aktualisierung.empfangsordner());
     zeigeFiguren();
-    const Onlineausgang ausgang = aktualisierung.schliesseAb();
+    const Onlineausgang ausgang = aktualisierung.schliesseAb(dl.ReceivedBytes());
     if (ausgang == Onlineausgang::Abgewiesen)
         melde(abweisung());
     else if (ausgang == Onlineausgang::Uebernommen && !zip)

@@ -11,12 +11,12 @@
 
 /// What the server sends for one request: its bytes as they are, so that it can misbehave in every way.
 struct Serverantwort {
-    std::string kopf;  ///< up to the empty line, with it
-    std::string rumpf; ///< whatever the head says about it
-    std::size_t stueck = std::string::npos;     ///< the body goes out in pieces of so many bytes
-    std::chrono::milliseconds pause{0};         ///< before each piece of the body
-    bool bleibtOffen = false;                   ///< nothing more comes, but the connection stays until the client goes
-    bool brichtAb = false;                      ///< the connection ends with a reset
+    std::string kopf;                       ///< up to the empty line, with it
+    std::string rumpf;                      ///< whatever the head says about it
+    std::size_t stueck = std::string::npos; ///< the body goes out in pieces of so many bytes
+    std::chrono::milliseconds pause{0};     ///< before each piece of the body
+    bool bleibtOffen = false;               ///< nothing more comes, but the connection stays until the client goes
+    bool brichtAb = false;                  ///< the connection ends with a reset
 };
 
 /// 200 with the body and its length.

@@ -1,16 +1,8 @@
 #include "statistics/logic/AbstandAuswertung.h"
 
-#include <algorithm>
+#include "statistics/logic/Zahltreffer.h"
 
 namespace {
-
-bool trifft(const ZiehungsArchiv& archiv, std::size_t nr, int zahl, ZZModus modus)
-{
-    if (zaehltZusatzzahl(modus) && archiv.zz[nr] == zahl)
-        return true;
-    const auto zahlen = archiv.gewinnzahlen(nr);
-    return zaehltGewinnzahlen(modus) && std::find(zahlen.begin(), zahlen.end(), zahl) != zahlen.end();
-}
 
 std::string datumVon(const ZiehungsArchiv& archiv, std::size_t nr)
 {

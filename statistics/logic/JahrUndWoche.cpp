@@ -1,18 +1,9 @@
 #include "statistics/logic/JahrUndWoche.h"
 
 #include "shell/logic/Zahlen.h"
-
-#include <algorithm>
+#include "statistics/logic/Zahltreffer.h"
 
 namespace {
-
-bool trifft(const ZiehungsArchiv& archiv, std::size_t nr, int zahl, ZZModus modus)
-{
-    if (zaehltZusatzzahl(modus) && archiv.zz[nr] == zahl)
-        return true;
-    const auto zahlen = archiv.gewinnzahlen(nr);
-    return zaehltGewinnzahlen(modus) && std::find(zahlen.begin(), zahlen.end(), zahl) != zahlen.end();
-}
 
 /// Walks through the draws: `neuesJahr` is called for the first year and for each change, `treffer` for each hit.
 template <class NeuesJahr, class Treffer>

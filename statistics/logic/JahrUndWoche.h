@@ -2,13 +2,12 @@
 
 #include "archive/logic/ZiehungsArchiv.h"
 #include "shell/logic/ZZModus.h"
+#include "statistics/logic/Spielwochen.h"
 
 #include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
-
-inline constexpr int kSpielwochen = 53;
 
 /// How often a number was drawn in one Spieljahr.
 struct Jahresanzahl {

@@ -1,12 +1,11 @@
 #include "statistics/logic/Wochenstatistik.h"
 
 #include "shell/logic/Format.h"
+#include "statistics/logic/Spielwochen.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr std::int32_t kLetzteSpielwoche = 53;
 
 void zaehle(Wochenstatistik& statistik, std::int32_t zahl)
 {
@@ -44,7 +43,7 @@ Wochenstatistik weekStatistics(const ZiehungsArchiv& archiv, std::int32_t sw, bo
 std::int32_t naechsteSpielwoche(const ZiehungsArchiv& archiv)
 {
     const std::int32_t letzte = archiv.sw[static_cast<std::size_t>(archiv.AnzahlZiehungen)];
-    return letzte >= 0 && letzte < kLetzteSpielwoche ? letzte + 1 : 1;
+    return letzte >= 0 && letzte < kSpielwochen ? letzte + 1 : 1;
 }
 
 std::vector<std::string> ziehungszeilen(const Wochenstatistik& statistik)

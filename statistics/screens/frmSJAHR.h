@@ -13,13 +13,12 @@ public:
 
     /// The last evaluation; its number is 0 before the first one.
     const JahrUndWoche& ergebnis() const { return ergebnis_; }
-    /// Evaluates a number 1..49 in all draws.
-    void werteAus(int zahl, ZZModus modus);
 
     void beimZeigen() override;
 
 private:
     void waehleModus(ZZModus modus);
+    void werteAus(int zahl, ZZModus modus);
     void zeigeErgebnis();
     void zeigeDetails();
     void kopiere(const std::string& bericht);

@@ -7,6 +7,7 @@
 #include "shell/logic/Format.h"
 #include "shell/logic/Spielarttexte.h"
 #include "shell/logic/ZZModus.h"
+#include "statistics/logic/Spielwochen.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr int kSpielwochen = 53;
 constexpr int kSichtbareZeilen = 24;
 
 std::string infotext(const ZiehungsArchiv& archiv)
