@@ -108,6 +108,13 @@ std::string kennung(std::string_view satz)
     return std::to_string(rundeZurGeraden(wert));
 }
 
+std::string fehlerzeile(int fehler, std::string_view vorherigerKorrekter, std::string_view satz)
+{
+    const std::string vorherige = vorherigerKorrekter.empty() ? "1955/4X" : kennung(vorherigerKorrekter);
+    return "Error " + Format(fehler, "00") + " nach Ziehung: " + vorherige + " >> " +
+           std::string(satz.substr(0, kHoechstensGezeigt)) + " <<";
+}
+
 /// Cuts the next line off; CR LF, CR and LF end one.
 std::string_view naechsteZeile(std::string_view& rest)
 {
@@ -149,24 +156,24 @@ int pruefeDatensatz(std::string_view satz)
 Strukturbericht pruefeStruktur(std::string_view bytes, const std::function<bool(const Strukturbericht&)>& zwischenstand)
 {
     Strukturbericht bericht;
-    std::string VorherigeKorrekte = "1955/4X";
-    Takt takt([&](std::uint64_t) { return !zwischenstand || zwischenstand(bericht); });
-    std::string_view rest = bytes.substr(0, bytes.find('\x1a'));
-    for (std::uint64_t nr = 1; !rest.empty(); ++nr) {
-        const std::string_view satz = naechsteZeile(rest);
+    std::string_view satz;
+    std::string_view VorherigeKorrekte;
+    Takt takt([&](std::uint64_t) {
         bericht.letzterSatz = jahrUndWocheVon(satz);
+        return !zwischenstand || zwischenstand(bericht);
+    });
+    std::string_view rest = bytes.substr(0, bytes.find('\x1a'));
+    for (std::uint64_t nr = 1; !rest.empty() && bericht.vollstaendig; ++nr) {
+        satz = naechsteZeile(rest);
         if (const int fehler = pruefeDatensatz(satz)) {
-            bericht.fehlerzeilen.push_back("Error " + Format(fehler, "00") + " nach Ziehung: " + VorherigeKorrekte +
-                                           " >> " + std::string(satz.substr(0, kHoechstensGezeigt)) + " <<");
+            bericht.fehlerzeilen.push_back(fehlerzeile(fehler, VorherigeKorrekte, satz));
         } else {
             ++bericht.KorrekteZiehungen;
-            VorherigeKorrekte = kennung(satz);
+            VorherigeKorrekte = satz;
         }
-        if (!takt.schritt(nr)) {
-            bericht.vollstaendig = false;
-            break;
-        }
+        bericht.vollstaendig = takt.schritt(nr);
     }
+    bericht.letzterSatz = jahrUndWocheVon(satz);
     return bericht;
 }
 

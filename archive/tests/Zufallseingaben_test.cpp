@@ -2,6 +2,7 @@
 
 #include "fuzz/PruefeHttpKopf.h"
 #include "fuzz/PruefeUrl.h"
+#include "fuzz/PruefeZiehungsdatei.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -98,6 +99,16 @@ TEST(Zufallseingaben, HaltenDieAntwortkoepfeZusammen)
     for (const std::string& beispiel : beispiele("http_kopf"))
         EXPECT_EQ(pruefeHttpKopf(beispiel), "");
     pruefeViele("http_kopf", pruefeHttpKopf);
+}
+
+TEST(Zufallseingaben, LesenKeineZiehungFalsch)
+{
+    pruefeViele("ziehungsdatei", pruefeZiehungsleser);
+}
+
+TEST(Zufallseingaben, BringenDieStrukturpruefungNichtDurcheinander)
+{
+    pruefeViele("ziehungsdatei", pruefeStrukturpruefung);
 }
 
 } // namespace
