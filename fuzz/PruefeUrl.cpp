@@ -63,7 +63,7 @@ std::string pruefeTeile(const std::string& kanonisch, const UrlTeile& teile)
 {
     if (!sindImRahmen(teile))
         return "a part is too long";
-    if (teile.nScheme != kSchemeHttp)
+    if (teile.nScheme != INTERNET_SCHEME_HTTP)
         return {};
     if (teile.HostName.empty() || teile.UrlPath.empty() || teile.UrlPath.front() != '/' || teile.nPort == 0)
         return "a part is missing";

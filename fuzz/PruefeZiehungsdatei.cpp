@@ -62,7 +62,8 @@ std::string pruefeStrukturpruefung(std::string_view bytes)
         if (pruefeDatensatz(satz) != fehlernummer(zeile))
             return "der Satz allein hat einen anderen Fehler";
     }
-    if (pruefeDatensatz(bytes) == 0 && bericht.KorrekteZiehungen != 1)
+    const bool eineZeile = bytes.find_first_of("\r\n\x1a") == std::string_view::npos;
+    if (eineZeile && pruefeDatensatz(bytes) == 0 && bericht.KorrekteZiehungen != 1)
         return "ein richtiger Satz wird nicht gezählt";
     return {};
 }

@@ -37,5 +37,5 @@ public:
 };
 
 /// Levels of `HttpQueryInfoA`.
-inline constexpr int kHttpQueryStatusCode = 19;
-inline constexpr int kHttpQueryContentLength = 5;
+inline constexpr int HTTP_QUERY_STATUS_CODE = 19;
+inline constexpr int HTTP_QUERY_CONTENT_LENGTH = 5;

@@ -23,7 +23,7 @@ struct Schema {
 
 constexpr std::array<Schema, 7> kSchemata{{{"ftp", 1, 21, true},
                                            {"gopher", 2, 70, true},
-                                           {"http", kSchemeHttp, 80, true},
+                                           {"http", INTERNET_SCHEME_HTTP, 80, true},
                                            {"https", 4, 443, true},
                                            {"file", 5, 0, false},
                                            {"news", 6, 0, false},
@@ -232,7 +232,7 @@ std::optional<std::string> kanonischeAutoritaet(std::string_view text)
 std::string kanonischerPfad(std::string_view pfad, bool mitHost)
 {
     // Stray "%" are escaped first, so that nothing resolved here can grow into a new escape.
-    const std::string einheitlich = loeseAuf(maskiere(pfad), istUnreserviert);
+    std::string einheitlich = loeseAuf(maskiere(pfad), istUnreserviert);
     if (!mitHost)
         return einheitlich;
     return einheitlich.empty() ? "/" : ohnePunkte(einheitlich);

@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// Number of the HTTP scheme in `UrlTeile::nScheme`.
-inline constexpr int kSchemeHttp = 3;
+inline constexpr int INTERNET_SCHEME_HTTP = 3;
 
 /// Longest canonical URL, in bytes.
 inline constexpr std::size_t kMaxUrl = 1024;

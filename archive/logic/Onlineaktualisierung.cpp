@@ -112,9 +112,15 @@ Onlineaktualisierung::Onlineaktualisierung(Onlineaufgabe aufgabe, fs::path progr
 
 Onlineaktualisierung::~Onlineaktualisierung()
 {
+    verwirfEmpfang();
+}
+
+void Onlineaktualisierung::verwirfEmpfang()
+{
     std::error_code egal;
     if (!empfang_.empty())
         fs::remove_all(empfang_, egal);
+    empfang_.clear();
 }
 
 bool Onlineaktualisierung::beginne()
@@ -143,6 +149,7 @@ Onlineausgang Onlineaktualisierung::schliesseAb(std::int64_t empfangeneBytes)
     const Onlineausgang ausgang = urteile(empfangeneBytes);
     if (aufgabe_ != Onlineaufgabe::Zip || ausgang != Onlineausgang::Uebernommen)
         stelleHer();
+    verwirfEmpfang();
     return ausgang;
 }
 

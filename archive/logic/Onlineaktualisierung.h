@@ -59,11 +59,12 @@ private:
     Onlineausgang legeZip(const std::filesystem::path& neue);
     Onlineausgang legeZiehungsdatei(const std::filesystem::path& neue);
     void stelleHer() const;
+    void verwirfEmpfang();
 
     Onlineaufgabe aufgabe_;
     std::filesystem::path programm_;
     std::filesystem::path ordner_;
-    std::filesystem::path empfang_; ///< empty until `beginne`
+    std::filesystem::path empfang_; ///< empty before `beginne` and after `schliesseAb`
     std::int32_t oldCount_ = 0;
     bool kopiert_ = false;
 };

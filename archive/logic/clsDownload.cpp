@@ -73,7 +73,7 @@ void clsDownload::Download(const std::string& url, const std::string& folder)
 void clsDownload::uebertrage(const std::string& url, const std::string& folder)
 {
     cURL adresse;
-    const bool verstanden = adresse.GetURL(url) && adresse.lScheme() == kSchemeHttp;
+    const bool verstanden = adresse.GetURL(url) && adresse.lScheme() == INTERNET_SCHEME_HTTP;
     const auto name = verstanden ? dateinameAusPfad(adresse.URLPath()) : std::nullopt;
     if (!name) {
         melde(2, "URL nicht interpretierbar");
@@ -107,12 +107,12 @@ bool clsDownload::baueAuf(const cURL& adresse)
 
 bool clsDownload::pruefeAntwort()
 {
-    const std::int32_t status = ganzzahl(QueryInfo(kHttpQueryStatusCode)).value_or(0);
+    const std::int32_t status = ganzzahl(QueryInfo(HTTP_QUERY_STATUS_CODE)).value_or(0);
     if (status != kStatusGut) {
         melde(status, status == kStatusFehlt ? "Seite/Datei nicht gefunden" : "Unbekannter Fehler");
         return false;
     }
-    const std::int64_t laenge = httpLaenge(QueryInfo(kHttpQueryContentLength)).value_or(0);
+    const std::int64_t laenge = httpLaenge(QueryInfo(HTTP_QUERY_CONTENT_LENGTH)).value_or(0);
     werte_.size = laenge <= kHoechstgroesse ? static_cast<std::int32_t>(laenge) : 0;
     if (Size() == 0) {
         melde(3, "Downloadgröße 0 Byte");

@@ -79,9 +79,9 @@ bool HttpInternet::HttpSendRequestA(InternetGriff anfrage)
 std::optional<std::string> HttpInternet::HttpQueryInfoA(InternetGriff anfrage, int stufe, std::size_t hoechstens)
 {
     std::optional<std::string> wert;
-    if (anfrage == kAnfrage && stufe == kHttpQueryStatusCode && kopf_.status != 0)
+    if (anfrage == kAnfrage && stufe == HTTP_QUERY_STATUS_CODE && kopf_.status != 0)
         wert = std::to_string(kopf_.status);
-    else if (anfrage == kAnfrage && stufe == kHttpQueryContentLength)
+    else if (anfrage == kAnfrage && stufe == HTTP_QUERY_CONTENT_LENGTH)
         wert = kopf_.ContentLength();
     return wert && wert->size() <= hoechstens ? wert : std::nullopt;
 }

@@ -19,7 +19,7 @@ namespace {
 constexpr std::int64_t kZug = 16; ///< milliseconds between two turns of the event loop
 
 /// From here on a wait is no longer short: the user may act, so that a server that hangs does not hold the screen.
-constexpr std::chrono::milliseconds kGeduld{500};
+constexpr std::chrono::milliseconds kGeduld{200};
 
 constexpr auto kSalotto = "Aktualisieren Samstagslotto (Salotto.dat)";
 constexpr auto kMalotto = "Aktualisieren Mittwochslotto (Malotto.dat)";

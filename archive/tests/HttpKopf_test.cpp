@@ -70,7 +70,8 @@ TEST(LiesHttpKopf, UebergehtZeilenDieKeinFeldSind)
 TEST(HttpKopfContentLength, GibtEsNurEindeutig)
 {
     const auto laenge = [](const std::string& felder) {
-        return liesHttpKopf("HTTP/1.1 200 OK\r\n" + felder + "\r\n").ContentLength().value_or("-");
+        const HttpKopf kopf = liesHttpKopf("HTTP/1.1 200 OK\r\n" + felder + "\r\n");
+        return std::string(kopf.ContentLength().value_or("-"));
     };
     EXPECT_EQ(laenge("Content-Length: 118208\r\n"), "118208");
     EXPECT_EQ(laenge("Content-Length: 5\r\nContent-Length: 5\r\n"), "5");

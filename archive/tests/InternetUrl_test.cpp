@@ -168,7 +168,7 @@ TEST(CURL, EineUnverstandeneAdresseLaesstDieAltenTeile)
     EXPECT_EQ(url.URLPath(), "/a.dat");
     EXPECT_EQ(url.URLExtraInfo(), "?b");
     EXPECT_EQ(url.Scheme(), "http");
-    EXPECT_EQ(url.lScheme(), kSchemeHttp);
+    EXPECT_EQ(url.lScheme(), INTERNET_SCHEME_HTTP);
 }
 
 } // namespace

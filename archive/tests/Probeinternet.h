@@ -50,7 +50,7 @@ struct Probeinternet final : Internet {
     {
         aufrufe.push_back("query " + std::to_string(anfrage) + " " + std::to_string(stufe) + " " +
                           std::to_string(hoechstens));
-        return stufe == kHttpQueryStatusCode ? status : laenge.value_or(std::to_string(rumpf.size()));
+        return stufe == HTTP_QUERY_STATUS_CODE ? status : laenge.value_or(std::to_string(rumpf.size()));
     }
     bool InternetReadFile(InternetGriff anfrage, std::span<char> puffer, std::size_t& gelesen) override
     {
