@@ -25,6 +25,8 @@ protected:
     void beimSchliessen() override;
     void zeigeStatus(const QString& text) override;
     void paintEvent(QPaintEvent* ereignis) override;
+    /// Esc leaves a tool, but not the program.
+    void keyPressEvent(QKeyEvent* ereignis) override { QWidget::keyPressEvent(ereignis); }
 
 private:
     Knopfwand* baueWand(const std::vector<std::vector<Menuegruppe>>& spalten, const QString& gruppenname);

@@ -321,6 +321,13 @@ TEST_F(Auswahlmenue, EineFehlendeDateiHaeltDasProgrammInDerBoxBisSieDaIst)
                         "vom So, 09.10.1955 ***");
 }
 
+TEST_F(Auswahlmenue, EscBeendetDasProgrammNicht)
+{
+    starte();
+    tippe("Befehl2", "Esc");
+    EXPECT_TRUE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
+}
+
 TEST_F(Auswahlmenue, SchliessenEntlaedtAlleBildschirme)
 {
     registriere("frmExcel");
