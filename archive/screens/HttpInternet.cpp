@@ -18,9 +18,9 @@ constexpr InternetGriff kSitzung = 1;
 constexpr InternetGriff kVerbindung = 2;
 constexpr InternetGriff kAnfrage = 3;
 
-constexpr int kScheibe = 10;               ///< milliseconds of one wait
-constexpr qint64 kLesepuffer = 256 * 1024; ///< most bytes that the socket holds ready
-constexpr int kMaxVorlaeufige = 8;         ///< answers of the kind "100 Continue" before the real one
+constexpr int kScheibe = 10;                       ///< milliseconds of one wait
+constexpr qint64 kLesepuffer = qint64{256} * 1024; ///< most bytes that the socket holds ready
+constexpr int kMaxVorlaeufige = 8;                 ///< answers of the kind "100 Continue" before the real one
 
 /// This machine itself is reached without a proxy, whatever its setting says.
 bool istDieserRechner(const QString& host)
