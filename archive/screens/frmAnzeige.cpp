@@ -2,6 +2,7 @@
 
 #include "archive/screens/AnzeigeTexte.h"
 #include "archive/screens/Editor.h"
+#include "archive/screens/Ziehungsfelder.h"
 #include "archive/screens/Ziehungsspeicher.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
@@ -14,7 +15,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextEdit>
@@ -34,11 +34,6 @@ QString spielname(std::int16_t spielart)
 QString zweistellig(int zahl)
 {
     return qt(Format(zahl, "00"));
-}
-
-QString zahlInZwei(std::int32_t zahl)
-{
-    return qt(Format(zahl, "@@"));
 }
 
 } // namespace
@@ -64,19 +59,7 @@ frmAnzeige::frmAnzeige(Umgebung& umgebung) : Bildschirm(umgebung, "frmAnzeige", 
 
 void frmAnzeige::baueAnzeige()
 {
-    static const QStringList kKoepfe{"Jahr", "SW", "Z1", "Z2", "Z3", "Z4", "Z5", "Z6", "ZZ", "SZ"};
-    Bloecke felder;
-    for (std::size_t i = 0; i < Texte.size(); ++i) {
-        const QString nummer = QString::number(i + 1);
-        Texte[i] = textfeld("Text" + nummer);
-        Texte[i]->setReadOnly(true);
-        Texte[i]->setAlignment(Qt::AlignCenter);
-        Texte[i]->setFixedWidth(Texte[i]->fontMetrics().horizontalAdvance("000000"));
-        QLabel* kopf = bezeichnung("lblText" + nummer, kKoepfe[static_cast<qsizetype>(i)]);
-        kopf->setAlignment(Qt::AlignCenter);
-        felder.push_back(eng(spalte({kopf, Texte[i]})));
-    }
-    felder.push_back(luecke());
+    Texte = new Ziehungsfelder(this);
     HBildlauf1 = new QScrollBar(Qt::Horizontal, this);
     HBildlauf1->setObjectName("HBildlauf1");
     HBildlauf1->setFocusPolicy(Qt::StrongFocus);
@@ -84,7 +67,7 @@ void frmAnzeige::baueAnzeige()
     lblDate = bezeichnung("lblDate");
     chkTippfeld = kontroll("chkTippfeld", "Das Tippmuster beim Scrollen im Tippfeld anzeigen?");
     Rahmen2 = rahmen("Rahmen2", "Die schon gespeicherten Ziehungen anzeigen",
-                     spalte({zeile({bezeichnung23, luecke(), lblDate}), zeile(felder), HBildlauf1, chkTippfeld}));
+                     spalte({zeile({bezeichnung23, luecke(), lblDate}), Texte, HBildlauf1, chkTippfeld}));
 
     Bezeichnung24 = listenkopf("Bezeichnung24", "Zieh.Nr.  Datum         JJJJ/SW   Gewinnzahlen       ZZ   SZ");
     Liste1 = liste("Liste1");
@@ -258,20 +241,13 @@ void frmAnzeige::zeigeZiehung(int nr)
 {
     const ZiehungsArchiv& archiv = umgebung().archiv;
     if (nr < 1 || nr > archiv.AnzahlZiehungen) {
-        for (QLineEdit* text : Texte)
-            text->clear();
+        Texte->leere();
         lblDate->clear();
         bezeichnung23->setText("Ziehung 0  (von 0 gespeicherten)");
         return;
     }
     const auto stelle = static_cast<std::size_t>(nr);
-    const auto zahlen = archiv.gewinnzahlen(stelle);
-    Texte[0]->setText(qt(Format(archiv.jjjj[stelle], "0000")));
-    Texte[1]->setText(zweistellig(archiv.sw[stelle]));
-    for (std::size_t i = 0; i < zahlen.size(); ++i)
-        Texte[i + 2]->setText(zahlInZwei(zahlen[i]));
-    Texte[8]->setText(qt(zusatzzahlText(archiv, stelle)));
-    Texte[9]->setText(qt(superzahlText(archiv, stelle)));
+    Texte->zeige(archiv, stelle);
     bezeichnung23->setText(QString("Ziehung %1  (von %2 gespeicherten)").arg(nr).arg(archiv.AnzahlZiehungen));
     lblDate->setText(qt(archiv.Datum[stelle]));
     if (chkTippfeld->isChecked())

@@ -6,6 +6,7 @@
 class QScrollBar;
 class QTextEdit;
 class Tippfeld7x7View;
+class Ziehungsfelder;
 
 /// Shows the draws of the active game, one at a time and as a list, and appends a new one to the Ziehungsdatei.
 class frmAnzeige final : public Bildschirm {
@@ -41,7 +42,7 @@ private:
 
     QGroupBox *Rahmen1, *Rahmen2, *Rahmen3, *fEditor, *Frame1;
     QScrollBar* HBildlauf1;
-    std::array<QLineEdit*, 10> Texte; ///< Text1 to Text10: year, week, six numbers, Zusatzzahl, Superzahl
+    Ziehungsfelder* Texte; ///< Text1 to Text10
     QLabel *lblDate, *bezeichnung23, *Bezeichnung24, *lblArt, *Bezeichnung13, *Bezeichnung2, *lblSZ;
     QCheckBox* chkTippfeld;
     Liste* Liste1;
