@@ -2,9 +2,12 @@
 
 #include "shell/logic/Format.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::int32_t kLetzteSpielwoche = 53;
+constexpr std::int32_t kGroesstesJahr = 9999;
 
 /// "2024,31,03,12,24,33,41,49".
 std::string anfang(const NeueZiehung& ziehung)
@@ -24,12 +27,17 @@ std::string_view kuerzel(std::int16_t spielart)
 
 } // namespace
 
+std::int32_t letztesSpieljahr(const ZiehungsArchiv& archiv)
+{
+    return std::clamp(archiv.jjjj[static_cast<std::size_t>(archiv.AnzahlZiehungen)], 0, kGroesstesJahr);
+}
+
 Vorschlag naechsteZiehung(const ZiehungsArchiv& archiv)
 {
     const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
     if (archiv.sw[letzte] >= kLetzteSpielwoche)
-        return {archiv.jjjj[letzte] + 1, 1};
-    return {archiv.jjjj[letzte], archiv.sw[letzte] + 1};
+        return {letztesSpieljahr(archiv) + 1, 1};
+    return {letztesSpieljahr(archiv), archiv.sw[letzte] + 1};
 }
 
 std::string neuerDatensatz(const NeueZiehung& ziehung)

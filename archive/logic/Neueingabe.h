@@ -5,6 +5,9 @@
 #include <array>
 #include <string>
 
+/// The Spieljahr of the last draw, kept to four digits whatever the file holds; 0 for an empty archive.
+std::int32_t letztesSpieljahr(const ZiehungsArchiv& archiv);
+
 /// The Spieljahr and Spielwoche proposed for the next draw. Behind week 53 comes week 1 of the next year, behind week
 /// 52 always week 53: whether a year has it, the user knows. An empty archive gives 0 and 1.
 struct Vorschlag {

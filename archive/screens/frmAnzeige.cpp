@@ -212,8 +212,8 @@ void frmAnzeige::frischeAuf()
 
     const Vorschlag vorschlag = naechsteZiehung(archiv);
     Kombi1->clear();
-    for (int jahr = archiv.jjjj[letzte] + 1; jahr <= archiv.jjjj[letzte] + kJahreZurWahl; ++jahr)
-        Kombi1->addItem(qt(Format(jahr, "0000")));
+    for (int weiter = 1; weiter <= kJahreZurWahl; ++weiter)
+        Kombi1->addItem(qt(Format(letztesSpieljahr(archiv) + weiter, "0000")));
     Kombi1->setCurrentText(qt(Format(vorschlag.jjjj, "0000")));
     Kombi2->setCurrentText(zweistellig(vorschlag.sw));
     Bezeichnung2->setText(

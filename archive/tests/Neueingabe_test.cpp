@@ -33,6 +33,13 @@ TEST(Vorschlag, NachWoche52KommtImmer53)
     EXPECT_EQ(neu.sw, 53);
 }
 
+TEST(Vorschlag, EinUnsinnigesJahrBleibtVierstellig)
+{
+    EXPECT_EQ(letztesSpieljahr(archivMit(INT32_MAX, 1)), 9999);
+    EXPECT_EQ(letztesSpieljahr(archivMit(INT32_MIN, 1)), 0);
+    EXPECT_EQ(naechsteZiehung(archivMit(INT32_MAX, 53)).jjjj, 10000);
+}
+
 TEST(Vorschlag, LeeresArchiv)
 {
     EXPECT_EQ(naechsteZiehung(ZiehungsArchiv()).jjjj, 0);
