@@ -1,4 +1,4 @@
-#include "bench/Samstagsarchiv.h"
+#include "bench/Archive.h"
 #include "statistics/logic/Haeufigkeit.h"
 
 #include <array>

@@ -1,4 +1,5 @@
-#include "bench/Samstagsarchiv.h"
+#include "bench/Archive.h"
+#include "bench/Messlauf.h"
 #include "statistics/logic/JahrUndWocheZeilen.h"
 #include "statistics/logic/Jahrestabelle.h"
 #include "statistics/logic/Wochenstatistik.h"
@@ -138,15 +139,5 @@ BENCHMARK(jahrestabellePlumpeSchleife);
 
 int main(int argc, char** argv)
 {
-    if (samstagsarchiv().AnzahlZiehungen == 0) {
-        std::fputs("no draws in ../shared/daten\n", stderr);
-        return EXIT_FAILURE;
-    }
-    if (!gleich()) {
-        std::fputs("the counts differ\n", stderr);
-        return EXIT_FAILURE;
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return EXIT_SUCCESS;
+    return messe(argc, argv, samstagsarchiv().AnzahlZiehungen > 0, gleich);
 }

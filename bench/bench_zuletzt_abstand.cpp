@@ -1,4 +1,5 @@
-#include "bench/Samstagsarchiv.h"
+#include "bench/Archive.h"
+#include "bench/Messlauf.h"
 #include "statistics/logic/AbstandListe.h"
 #include "statistics/logic/AbstandMaximum.h"
 #include "statistics/logic/ZuletztTafel.h"
@@ -112,15 +113,5 @@ bool stimmen()
 
 int main(int argc, char** argv)
 {
-    if (samstagsarchiv().AnzahlZiehungen == 0) {
-        std::fputs("no draws in ../shared/daten\n", stderr);
-        return EXIT_FAILURE;
-    }
-    if (!stimmen()) {
-        std::fputs("the results differ\n", stderr);
-        return EXIT_FAILURE;
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return EXIT_SUCCESS;
+    return messe(argc, argv, samstagsarchiv().AnzahlZiehungen > 0, stimmen);
 }
