@@ -1,6 +1,7 @@
 #include "archive/logic/Neueingabe.h"
 
 #include "shell/logic/Format.h"
+#include "shell/logic/Zahlen.h"
 
 #include <algorithm>
 
@@ -62,15 +63,12 @@ std::string zusatzzahlText(const ZiehungsArchiv& archiv, std::size_t nr)
 
 std::string superzahlText(const ZiehungsArchiv& archiv, std::size_t nr)
 {
-    const std::int32_t beginn = istSamstag(archiv.Spielart) ? kSuperzahlBeginnSamstag : kSuperzahlBeginnMittwoch;
-    return static_cast<std::int32_t>(nr) < beginn ? "-" : Format(archiv.s[nr], "@");
+    return static_cast<std::int32_t>(nr) < superzahlBeginn(archiv.Spielart) ? "-" : Format(archiv.s[nr], "@");
 }
 
 std::string listenzeile(const ZiehungsArchiv& archiv, std::size_t nr)
 {
-    std::string zeile = Format(nr, "0000") + "    " + archiv.Datum[nr] + " " + jahrUndWoche(archiv, nr) + " ";
-    for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
-        zeile += " " + Format(zahl, "00");
     const std::string zusatzzahl = archiv.zz[nr] == 0 ? " -" : std::to_string(archiv.zz[nr]);
-    return zeile + "   " + zusatzzahl + "   " + superzahlText(archiv, nr);
+    return Format(nr, "0000") + "    " + archiv.Datum[nr] + " " + jahrUndWoche(archiv, nr) + "  " +
+           zahlentext(archiv.gewinnzahlen(nr)) + "   " + zusatzzahl + "   " + superzahlText(archiv, nr);
 }

@@ -64,6 +64,13 @@ constexpr bool istSamstag(std::int16_t spielart)
     return spielart == SpielartStart || spielart == Samstagslotto;
 }
 
+/// ZiehungsNr of the first draw of a game that has a Superzahl. Over several games it is asked anew for each draw,
+/// with the game of that draw.
+constexpr std::int32_t superzahlBeginn(std::int16_t spielart)
+{
+    return istSamstag(spielart) ? kSuperzahlBeginnSamstag : kSuperzahlBeginnMittwoch;
+}
+
 /// "SALOTTO.DAT", "MALOTTO.DAT" or "MBLOTTO.DAT"; empty for a Spielart outside 0..3.
 std::string_view ziehungsdateiName(std::int16_t spielart);
 

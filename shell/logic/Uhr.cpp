@@ -1,5 +1,7 @@
 #include "shell/logic/Uhr.h"
 
+#include "shell/logic/Format.h"
+
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -147,4 +149,11 @@ std::optional<Zeitpunkt> liesIsoZeit(std::string_view text)
     }
     return local_days{datum} + hours{uhrzeit[0]} + minutes{uhrzeit[1]} + seconds{uhrzeit[2]} +
            milliseconds{tausendstel};
+}
+
+std::string uhrtext(std::int64_t sekunden)
+{
+    if (sekunden < 0)
+        return {};
+    return Format(sekunden / 3600, "00") + ":" + Format(sekunden / 60 % 60, "00") + ":" + Format(sekunden % 60, "00");
 }

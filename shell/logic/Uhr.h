@@ -1,7 +1,9 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 /// A point of local time, in milliseconds.
@@ -60,3 +62,6 @@ private:
 /// Reads "2026-11-21T19:30:00"; seconds with or without a fraction, or the whole time of day, may be missing, and a
 /// blank may stand for the "T". Nothing for a text of another form or a day that does not exist.
 std::optional<Zeitpunkt> liesIsoZeit(std::string_view text);
+
+/// A duration as "hh:mm:ss", with more digits from 100 hours on; empty for a negative one.
+std::string uhrtext(std::int64_t sekunden);

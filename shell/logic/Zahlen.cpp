@@ -1,5 +1,6 @@
 #include "shell/logic/Zahlen.h"
 
+#include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
 
 #include <charconv>
@@ -64,4 +65,20 @@ std::int64_t rundeZurGeraden(double wert)
         return Grenzen::min();
     }
     return static_cast<std::int64_t>(std::nearbyint(wert)); // nobody changes the rounding mode, which is to even
+}
+
+std::string zahlentext(std::span<const std::int32_t> zahlen)
+{
+    std::string text;
+    for (const std::int32_t zahl : zahlen) {
+        if (!text.empty())
+            text += ' ';
+        if (zahl >= 0 && zahl <= 99) {
+            text += static_cast<char>('0' + zahl / 10);
+            text += static_cast<char>('0' + zahl % 10);
+        } else {
+            text += Format(zahl, "00");
+        }
+    }
+    return text;
 }

@@ -177,6 +177,15 @@ TEST(clsTimer, HaeltDieAblesungen)
     EXPECT_GE(uhr.Elapsed(), erste + 2.0);
 }
 
+TEST(Uhrtext, ZaehltStundenMinutenUndSekunden)
+{
+    EXPECT_EQ(uhrtext(0), "00:00:00");
+    EXPECT_EQ(uhrtext(59), "00:00:59");
+    EXPECT_EQ(uhrtext(3661), "01:01:01");
+    EXPECT_EQ(uhrtext(360000), "100:00:00");
+    EXPECT_EQ(uhrtext(-1), "");
+}
+
 TEST(clsTimer, TextMitDreiStellen)
 {
     clsTimer uhr;

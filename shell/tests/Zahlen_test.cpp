@@ -1,5 +1,6 @@
 #include "shell/logic/Zahlen.h"
 
+#include <array>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
@@ -73,6 +74,14 @@ TEST(RundeZurGeraden, WasKeineGanzeZahlWerdenKann)
     EXPECT_EQ(rundeZurGeraden(std::numeric_limits<double>::quiet_NaN()), 0);
     EXPECT_EQ(rundeZurGeraden(std::numeric_limits<double>::infinity()), INT64_MAX);
     EXPECT_EQ(rundeZurGeraden(-1e300), INT64_MIN);
+}
+
+TEST(Zahlentext, ZweiStellenUndEinLeerzeichen)
+{
+    EXPECT_EQ(zahlentext({}), "");
+    EXPECT_EQ(zahlentext(std::array{1, 2, 49}), "01 02 49");
+    EXPECT_EQ(zahlentext(std::array{0, 99, 100}), "00 99 100");
+    EXPECT_EQ(zahlentext(std::array{-5, INT32_MIN, INT32_MAX}), "-05 -2147483648 2147483647");
 }
 
 } // namespace

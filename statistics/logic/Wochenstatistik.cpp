@@ -1,6 +1,7 @@
 #include "statistics/logic/Wochenstatistik.h"
 
 #include "shell/logic/Format.h"
+#include "shell/logic/Zahlen.h"
 #include "statistics/logic/Spielwochen.h"
 
 #include <algorithm>
@@ -50,13 +51,10 @@ std::vector<std::string> ziehungszeilen(const Wochenstatistik& statistik)
 {
     std::vector<std::string> zeilen;
     zeilen.reserve(statistik.ziehungen.size());
-    const std::string woche = "/" + Format(statistik.sw, "00") + " ";
-    for (const Wochenziehung& ziehung : statistik.ziehungen) {
-        std::string zeile = Format(ziehung.jjjj, "0000") + woche;
-        for (const std::int32_t zahl : ziehung.gewinnzahlen)
-            zeile += " " + Format(zahl, "00");
-        zeilen.push_back(zeile + "  " + zusatzzahlText(ziehung, statistik.mitZZ) + "  " + ziehung.datum);
-    }
+    const std::string woche = "/" + Format(statistik.sw, "00") + "  ";
+    for (const Wochenziehung& ziehung : statistik.ziehungen)
+        zeilen.push_back(Format(ziehung.jjjj, "0000") + woche + zahlentext(ziehung.gewinnzahlen) + "  " +
+                         zusatzzahlText(ziehung, statistik.mitZZ) + "  " + ziehung.datum);
     return zeilen;
 }
 

@@ -54,7 +54,7 @@ bool hatZusatzzahl(std::int16_t spielart, std::int32_t nr)
 
 bool hatSuperzahl(std::int16_t spielart, std::int32_t nr)
 {
-    return nr >= (istSamstag(spielart) ? kSuperzahlBeginnSamstag : kSuperzahlBeginnMittwoch);
+    return nr >= superzahlBeginn(spielart);
 }
 
 int zieheZahl(Musterzufall& zufall, std::bitset<kZahlen + 1>& gezogen)
