@@ -8,24 +8,36 @@
 #include <QPushButton>
 
 namespace {
+
 constexpr int kBreite = 440;
+
+QLabel* absatz(const QString& text, const char* name)
+{
+    auto* feld = new QLabel(text);
+    feld->setObjectName(name);
+    feld->setForegroundRole(QPalette::ToolTipText);
+    feld->setWordWrap(true);
+    return feld;
 }
 
-Infotafel::Infotafel(QWidget* bildschirm, const QString& text) : QFrame(bildschirm)
+} // namespace
+
+Infotafel::Infotafel(QWidget* bildschirm, const QString& text, const InfotafelNamen& namen)
+    : Infotafel(bildschirm, absatz(text, namen.text), namen)
+{}
+
+Infotafel::Infotafel(QWidget* bildschirm, QWidget* erklaerung, const InfotafelNamen& namen)
+    : QFrame(bildschirm),
+      ok_(new QPushButton(namen.okText, this))
 {
-    setObjectName("Infotafel");
+    setObjectName(namen.rahmen);
     setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     setLineWidth(2);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
-    auto* erklaerung = new QLabel(text, this);
-    erklaerung->setObjectName("InfotafelText");
-    erklaerung->setForegroundRole(QPalette::ToolTipText);
-    erklaerung->setWordWrap(true);
-    auto* ok = new QPushButton("ok", this);
-    ok->setObjectName("InfotafelOk");
-    connect(ok, &QPushButton::clicked, this, &QWidget::hide);
-    QLayout* inhalt = spalte({erklaerung, zeile({luecke(), ok})});
+    ok_->setObjectName(namen.ok);
+    connect(ok_, &QPushButton::clicked, this, &QWidget::hide);
+    QLayout* inhalt = spalte({erklaerung, zeile({luecke(), ok_})});
     inhalt->setContentsMargins(Stil::kRand, Stil::kRand, Stil::kRand, Stil::kRand);
     setLayout(inhalt);
     hide();
@@ -33,12 +45,15 @@ Infotafel::Infotafel(QWidget* bildschirm, const QString& text) : QFrame(bildschi
 
 void Infotafel::zeige()
 {
-    resize(kBreite, layout()->totalHeightForWidth(kBreite) + 2 * frameWidth());
+    if (layout()->hasHeightForWidth())
+        resize(kBreite, layout()->totalHeightForWidth(kBreite) + 2 * frameWidth());
+    else
+        adjustSize();
     parentWidget()->resize(parentWidget()->size().expandedTo(size()));
     move((parentWidget()->width() - width()) / 2, (parentWidget()->height() - height()) / 2);
     show();
     raise();
-    findChild<QPushButton*>("InfotafelOk")->setFocus();
+    ok_->setFocus();
 }
 
 void Infotafel::keyPressEvent(QKeyEvent* ereignis)

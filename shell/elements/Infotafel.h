@@ -2,14 +2,29 @@
 
 #include <QFrame>
 
+class QPushButton;
+
+/// How a tool calls its info frame and what is in it.
+struct InfotafelNamen {
+    const char* rahmen = "Infotafel";
+    const char* text = "InfotafelText";
+    const char* ok = "InfotafelOk";
+    const char* okText = "ok";
+};
+
 /// The info frame of a tool: its explanation over the screen, until "ok".
 class Infotafel final : public QFrame {
 public:
-    Infotafel(QWidget* bildschirm, const QString& text);
+    Infotafel(QWidget* bildschirm, const QString& text, const InfotafelNamen& namen = {});
+    /// With an explanation of another kind, such as a list box, that has its own name.
+    Infotafel(QWidget* bildschirm, QWidget* erklaerung, const InfotafelNamen& namen);
     /// Shows it in the middle of the screen, which grows if it is too small.
     void zeige();
 
 protected:
     /// Esc puts the frame away and leaves the screen open.
     void keyPressEvent(QKeyEvent* ereignis) override;
+
+private:
+    QPushButton* ok_;
 };

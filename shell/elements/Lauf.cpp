@@ -43,12 +43,14 @@ Lauf::~Lauf()
 bool Lauf::weiter()
 {
     constexpr std::chrono::milliseconds kZug{16};
-    const auto jetzt = std::chrono::steady_clock::now();
-    if (jetzt - letzterZug_ >= kZug) {
-        if (!bildschirm_.umgebung().pumpe.verarbeite())
-            bildschirm_.stoppe();
-        letzterZug_ = std::chrono::steady_clock::now();
-    }
+    return std::chrono::steady_clock::now() - letzterZug_ >= kZug ? zug() : !bildschirm_.gestoppt();
+}
+
+bool Lauf::zug()
+{
+    if (!bildschirm_.umgebung().pumpe.verarbeite())
+        bildschirm_.stoppe();
+    letzterZug_ = std::chrono::steady_clock::now();
     return !bildschirm_.gestoppt();
 }
 

@@ -36,6 +36,8 @@ public:
 
     /// To be called often by a long loop: gives the event loop a turn every 16 ms. False once the run is to stop.
     bool weiter();
+    /// Gives the event loop a turn at once. False once the run is to stop.
+    bool zug();
     /// `weiter` in the form that the logic takes.
     Fortschritt fortschritt();
 

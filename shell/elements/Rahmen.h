@@ -3,7 +3,7 @@
 #include <QGroupBox>
 
 /// A group of controls as a card: a light ground with its title at the top.
-class Rahmen final : public QGroupBox {
+class Rahmen : public QGroupBox {
 public:
     Rahmen(const QString& titel, QWidget* eltern);
 

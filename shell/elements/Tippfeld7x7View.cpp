@@ -51,7 +51,9 @@ void Tippfeld7x7View::klick(int zahl)
 void Tippfeld7x7View::frischeAuf()
 {
     for (int zahl = 1; zahl <= 49; ++zahl)
-        markiere(zellen_[static_cast<std::size_t>(zahl)], modell_.markiert(zahl));
+        if (modell_.markiert(zahl) != gezeigt_.markiert(zahl))
+            markiere(zellen_[static_cast<std::size_t>(zahl)], modell_.markiert(zahl));
+    gezeigt_ = modell_;
     update();
 }
 

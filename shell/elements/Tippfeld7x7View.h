@@ -36,6 +36,7 @@ private:
 
     Art art_;
     Tippfeld7x7 modell_;
+    Tippfeld7x7 gezeigt_;             ///< what the cells look like
     std::array<Zelle*, 50> zellen_{}; ///< [1..49]
     int fokuszahl_ = 1;
 };

@@ -97,12 +97,17 @@ struct Umgebung {
     BildschirmVerzeichnis* bildschirme = nullptr; ///< set once the screens are registered
     Menue* menue = nullptr;                       ///< set while the selection menu exists
     bool VorschlagLaeuft = false;                 ///< the tip proposals use other screens as their engines
+    bool BerichtAbbruch = false;                  ///< the compact page is to end: the screens it drives stop too
 };
 
 /// The title of every box that has none of its own.
 inline constexpr auto kProgrammtitel = "Tombrix";
 /// The title of the box with a tool's explanation.
 inline constexpr auto kInfotitel = "Lotto-Info";
+
+/// Loads the files of `maske` (1 Samstag, 2 Mittwoch, 4 Mittwoch (B)) one after the other; a missing one is told in a
+/// box. Gives what stands in each, see `LadeAlleZiehungen`.
+std::string ladeSpielarten(Umgebung& umgebung, int maske);
 
 /// Loads the Ziehungsdatei of `spielart` into the archive; a missing file is told in a box until it is there.
 void ladeSpielart(Umgebung& umgebung, std::int16_t spielart);

@@ -1,0 +1,88 @@
+#include "shell/elements/AutomatischeAnzeige.h"
+
+#include "shell/elements/Liste.h"
+
+#include <QEvent>
+#include <QPushButton>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+
+namespace {
+constexpr std::chrono::milliseconds kTakt{2000};
+} // namespace
+
+AutomatischeAnzeige::AutomatischeAnzeige(QPushButton* cmdAuto_, const Beschriftung& beschriftung, QWidget* eltern)
+    : QObject(eltern),
+      beschriftung_(beschriftung),
+      cmdAuto(cmdAuto_),
+      Timer1(new QTimer(eltern))
+{
+    Timer1->setObjectName("Timer1");
+    connect(Timer1, &QTimer::timeout, this, [this] { ticke(); });
+    connect(cmdAuto, &QPushButton::clicked, this, [this] { schalte(); });
+    Timer1->start(kTakt);
+}
+
+void AutomatischeAnzeige::fuehre(Liste* liste, NachLoslassen nachLoslassen)
+{
+    listen_.push_back({liste, nachLoslassen});
+    liste->beiAuswahl = [this, liste] { melde(*liste); };
+    liste->viewport()->installEventFilter(this);
+}
+
+void AutomatischeAnzeige::beginneVorn(const Liste* liste)
+{
+    for (Gefuehrt& gefuehrt : listen_) {
+        if (gefuehrt.liste == liste)
+            gefuehrt.zeile = 0;
+    }
+}
+
+void AutomatischeAnzeige::schalte()
+{
+    if (Timer1->isActive())
+        Timer1->stop();
+    else
+        Timer1->start(kTakt);
+    cmdAuto->setText(Timer1->isActive() ? beschriftung_.ein : beschriftung_.aus);
+}
+
+void AutomatischeAnzeige::ticke()
+{
+    for (Gefuehrt& gefuehrt : listen_) {
+        const int zeilen = gefuehrt.liste->zeilenzahl();
+        if (gefuehrt.liste->isHidden() || zeilen == 0)
+            continue;
+        gefuehrt.zeile = gefuehrt.zeile + 1 < zeilen ? gefuehrt.zeile + 1 : 0;
+        gefuehrt.liste->modell().SetListIndex(gefuehrt.zeile);
+        gefuehrt.liste->zeigeZeile(gefuehrt.zeile);
+        melde(*gefuehrt.liste);
+    }
+}
+
+void AutomatischeAnzeige::melde(const Liste& liste) const
+{
+    if (beiZeile)
+        beiZeile(liste);
+}
+
+void AutomatischeAnzeige::lasseLos(const Gefuehrt& gefuehrt)
+{
+    if (gefuehrt.nachLoslassen == NachLoslassen::Immer || cmdAuto->text() == beschriftung_.ein)
+        Timer1->start(kTakt);
+}
+
+bool AutomatischeAnzeige::eventFilter(QObject* ziel, QEvent* ereignis)
+{
+    const auto gefuehrt = std::find_if(listen_.begin(), listen_.end(),
+                                       [ziel](const Gefuehrt& eine) { return eine.liste->viewport() == ziel; });
+    if (gefuehrt != listen_.end()) {
+        if (ereignis->type() == QEvent::MouseButtonPress || ereignis->type() == QEvent::MouseButtonDblClick)
+            Timer1->stop();
+        else if (ereignis->type() == QEvent::MouseButtonRelease)
+            lasseLos(*gefuehrt);
+    }
+    return QObject::eventFilter(ziel, ereignis);
+}
