@@ -3,6 +3,9 @@
 #include "archive/screens/frmAnzeige.h"
 #include "archive/screens/frmOnline.h"
 #include "archive/screens/frmlana.h"
+#include "engines/screens/frmPOSKOM.h"
+#include "engines/screens/frmpos2.h"
+#include "engines/screens/frmpos_calc.h"
 #include "shell/app/frmLSTART.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "statistics/screens/frmABSTAND.h"
@@ -26,4 +29,7 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmSJAHR>("frmSJAHR");
     verzeichnis.registriere<frmSWH>("frmSWH");
     verzeichnis.registriere<frmHJAHR>("frmHJAHR");
+    verzeichnis.registriere<frmPOSKOM>("frmPOSKOM");
+    verzeichnis.registriere<frmpos_calc>("frmpos_calc");
+    verzeichnis.registriere<frmpos2>("frmpos2");
 }
