@@ -3,7 +3,9 @@
 #include "archive/screens/frmAnzeige.h"
 #include "archive/screens/frmOnline.h"
 #include "archive/screens/frmlana.h"
+#include "engines/screens/frmFUENFW.h"
 #include "engines/screens/frmPOSKOM.h"
+#include "engines/screens/frmZusammenFUENFW.h"
 #include "engines/screens/frmpos2.h"
 #include "engines/screens/frmpos_calc.h"
 #include "shell/app/frmLSTART.h"
@@ -32,4 +34,6 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmPOSKOM>("frmPOSKOM");
     verzeichnis.registriere<frmpos_calc>("frmpos_calc");
     verzeichnis.registriere<frmpos2>("frmpos2");
+    verzeichnis.registriere<frmFÜNFW>("frmFÜNFW");
+    verzeichnis.registriere<frmZusammenFÜNFW>("frmZusammenFÜNFW");
 }
