@@ -4,8 +4,11 @@
 #include "archive/screens/frmOnline.h"
 #include "archive/screens/frmlana.h"
 #include "engines/screens/frmFUENFW.h"
+#include "engines/screens/frmHGDV.h"
+#include "engines/screens/frmInfoHGDV.h"
 #include "engines/screens/frmPOSKOM.h"
 #include "engines/screens/frmZusammenFUENFW.h"
+#include "engines/screens/frmZusammenHGDV.h"
 #include "engines/screens/frmpos2.h"
 #include "engines/screens/frmpos_calc.h"
 #include "shell/app/frmLSTART.h"
@@ -31,6 +34,9 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmSJAHR>("frmSJAHR");
     verzeichnis.registriere<frmSWH>("frmSWH");
     verzeichnis.registriere<frmHJAHR>("frmHJAHR");
+    verzeichnis.registriere<frmHGDV>("frmHGDV");
+    verzeichnis.registriere<frmZusammenHGDV>("frmZusammenHGDV");
+    verzeichnis.registriere<frmInfoHGDV>("frmInfoHGDV");
     verzeichnis.registriere<frmPOSKOM>("frmPOSKOM");
     verzeichnis.registriere<frmpos_calc>("frmpos_calc");
     verzeichnis.registriere<frmpos2>("frmpos2");

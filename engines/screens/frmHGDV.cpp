@@ -1,0 +1,3 @@
+#include "engines/screens/frmHGDV.h"
+
+frmHGDV::frmHGDV(Umgebung& umgebung) : Vollsuchbildschirm(umgebung, "frmHGDV", Spiele::Eines) {}
