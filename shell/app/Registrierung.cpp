@@ -3,6 +3,7 @@
 #include "archive/screens/frmAnzeige.h"
 #include "archive/screens/frmOnline.h"
 #include "archive/screens/frmlana.h"
+#include "engines/screens/frmAlleKombis.h"
 #include "engines/screens/frmFUENFW.h"
 #include "engines/screens/frmHGDV.h"
 #include "engines/screens/frmInfoHGDV.h"
@@ -40,6 +41,7 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmPOSKOM>("frmPOSKOM");
     verzeichnis.registriere<frmpos_calc>("frmpos_calc");
     verzeichnis.registriere<frmpos2>("frmpos2");
+    verzeichnis.registriere<frmAlleKombis>("frmAlleKombis");
     verzeichnis.registriere<frmFÜNFW>("frmFÜNFW");
     verzeichnis.registriere<frmZusammenFÜNFW>("frmZusammenFÜNFW");
 }
