@@ -8,6 +8,7 @@
 #include "engines/screens/frmHGDV.h"
 #include "engines/screens/frmInfoHGDV.h"
 #include "engines/screens/frmPOSKOM.h"
+#include "engines/screens/frmTreffer.h"
 #include "engines/screens/frmZusammenFUENFW.h"
 #include "engines/screens/frmZusammenHGDV.h"
 #include "engines/screens/frmpos2.h"
@@ -44,4 +45,5 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmAlleKombis>("frmAlleKombis");
     verzeichnis.registriere<frmFÜNFW>("frmFÜNFW");
     verzeichnis.registriere<frmZusammenFÜNFW>("frmZusammenFÜNFW");
+    verzeichnis.registriere<frmTreffer>("frmTreffer");
 }

@@ -1,0 +1,102 @@
+#include "engines/logic/TreffersucheTexte.h"
+
+#include "shell/logic/Binomial.h"
+#include "shell/logic/ClipReport.h"
+#include "shell/logic/Format.h"
+
+namespace {
+
+constexpr std::array<Rangliste, kRanglisten> kAlle{Rangliste::Drei, Rangliste::Vier, Rangliste::Fuenf, Rangliste::Sechs,
+                                                   Rangliste::Loser};
+
+std::string mitSchwelle(std::string_view titel, std::string_view vergleich, std::uint32_t schwelle)
+{
+    return std::string(titel) + " (" + std::string(vergleich) + std::to_string(schwelle) + "):";
+}
+
+/// In the report a blank stands before the count of the list.
+std::string berichtstitel(const Treffersuche& suche, Rangliste liste)
+{
+    std::string titel = ranglistentitel(liste, suche.schwellen);
+    titel.pop_back();
+    return titel + ":  " + (liste == Rangliste::Loser ? "" : "Anzahl: ") + anzahltext(suche, liste);
+}
+
+} // namespace
+
+std::string_view ranglistentitel(Rangliste liste)
+{
+    switch (liste) {
+    case Rangliste::Drei:
+        return " Kombinationen, die die meisten Dreier erbracht hätten:";
+    case Rangliste::Vier:
+        return "Kombinationen, die die meisten Vierer erbracht hätten:";
+    case Rangliste::Fuenf:
+        return "Kombinationen, die die meisten Fünfer erbracht hätten:";
+    case Rangliste::Sechs:
+        return "Die erfogreichsten Sechserkombinationen:";
+    case Rangliste::Loser:
+        return "Die schlechtesten Kombinationen:";
+    }
+    return {};
+}
+
+std::string ranglistentitel(Rangliste liste, const Trefferschwellen& schwellen)
+{
+    switch (liste) {
+    case Rangliste::Drei:
+        return mitSchwelle("Kombinationen, die die meisten Dreier erbracht hätten", ">=", schwellen.SchwelleDrei);
+    case Rangliste::Vier:
+        return mitSchwelle("Kombinationen, die die meisten Vierer erbracht hätten", ">=", schwellen.SchwelleVier);
+    case Rangliste::Fuenf:
+        return mitSchwelle("Kombinationen, die die meisten Fuenfer erbracht hätten", ">=", schwellen.SchwelleFuenf);
+    case Rangliste::Sechs:
+        return std::string(ranglistentitel(liste));
+    case Rangliste::Loser:
+        return mitSchwelle("Die schlechtesten Kombinationen, keine 6-,5-,4-er, 3-er", "<", schwellen.SchwelleLoser);
+    }
+    return {};
+}
+
+std::string kombinationenText(std::uint64_t erledigt)
+{
+    return Format(erledigt, "##,###,###") + " von " + Format(kKombinationen6aus49, "##,###,###");
+}
+
+std::string vergleicheText(std::uint64_t erledigt, std::uint64_t ziehungen)
+{
+    return Format(erledigt * ziehungen, "###,###,###,###");
+}
+
+std::string anzahltext(const Treffersuche& suche, Rangliste liste)
+{
+    const std::string zeilen = std::to_string(suche.liste(liste).anzahl());
+    if (liste != Rangliste::Loser)
+        return zeilen;
+    return "Anzahl gesamt: " + Format(suche.AnzahlOhneGewinn, "###,###") + " davon Kombinationen mit Anz. < " +
+           std::to_string(suche.schwellen.SchwelleLoser) + ": " + zeilen;
+}
+
+std::string treffersucheBericht(const Treffersuche& suche, const Treffersucheangaben& angaben, bool absteigend,
+                                const Fortschritt& weiter)
+{
+    ClipReport bericht;
+    bericht.zeile(kTreffersucheTitel).zeile("In die Auswertung einbezogene Ziehungen:");
+    for (std::size_t i = 0; i < angaben.spielarten.size(); ++i)
+        bericht.zeile(angaben.spielarten[i] + ":      " + angaben.staende[i]);
+    bericht.zeile(angaben.ziehungen);
+
+    Takt takt(weiter);
+    std::uint64_t erledigt = 0;
+    for (const Rangliste liste : kAlle) {
+        const Trefferrang& rang = suche.liste(liste);
+        bericht.leerzeile().zeile(berichtstitel(suche, liste)).zeile(kRanglistenkopf);
+        for (std::size_t i = 0; i < rang.anzahl(); ++i) {
+            bericht.zeile(rang.zeile(absteigend ? rang.anzahl() - 1 - i : i));
+            if (!takt.schritt(++erledigt))
+                return {};
+        }
+    }
+    bericht.leerzeile().zeile(angaben.frage + (suche.NurExakt ? " nein" : " ja"));
+    return bericht.leerzeile().schlusshinweis().text();
+}
