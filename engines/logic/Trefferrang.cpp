@@ -15,13 +15,18 @@ std::string standtext(const Trefferstand& stand)
            Format(stand.n3, "@@@") + " | ";
 }
 
+std::string kombinationsteil(std::int32_t nummer)
+{
+    return "   " + zahlentext(KombinationAusNummer(nummer));
+}
+
 } // namespace
 
 void Trefferrang::fuegeHinzu(const Trefferstand& stand, std::int32_t nummer)
 {
     const auto [eintrag, neu] = fachVon_.try_emplace(stand, faecher_.size());
     if (neu)
-        faecher_.push_back({stand, {}});
+        faecher_.push_back({stand, {}, {}, 0});
     faecher_[eintrag->second].nummern.push_back(nummer);
     ++anzahl_;
 }
@@ -29,7 +34,9 @@ void Trefferrang::fuegeHinzu(const Trefferstand& stand, std::int32_t nummer)
 void Trefferrang::ordne()
 {
     fachVon_.clear();
-    std::ranges::sort(faecher_, {}, [](const Fach& fach) { return standtext(fach.stand); });
+    for (Fach& fach : faecher_)
+        fach.text = standtext(fach.stand);
+    std::ranges::sort(faecher_, {}, &Fach::text);
     std::size_t ab = 0;
     for (Fach& fach : faecher_) {
         fach.ab = ab;
@@ -46,7 +53,7 @@ Trefferrang::Ort Trefferrang::ort(std::size_t index) const
 std::string Trefferrang::zeile(std::size_t index) const
 {
     const Ort zeile = ort(index);
-    return trefferzeile(zeile.fach.stand, zeile.nummer);
+    return zeile.fach.text + kombinationsteil(zeile.nummer);
 }
 
 std::int32_t Trefferrang::nummer(std::size_t index) const
@@ -63,5 +70,5 @@ std::size_t Trefferrang::Streuung::operator()(const Trefferstand& stand) const
 
 std::string trefferzeile(const Trefferstand& stand, std::int32_t nummer)
 {
-    return standtext(stand) + "   " + zahlentext(KombinationAusNummer(nummer));
+    return standtext(stand) + kombinationsteil(nummer);
 }

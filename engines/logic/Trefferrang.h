@@ -34,6 +34,7 @@ private:
     struct Fach {
         Trefferstand stand;
         std::vector<std::int32_t> nummern;
+        std::string text;   ///< how its lines begin, and what they are ordered by
         std::size_t ab = 0; ///< index of its first line
     };
     struct Streuung {
