@@ -30,12 +30,15 @@ Zahlensuche sucheZahlen(std::string_view eingabe)
     Kombination zahlen{};
     if (teile.size() != zahlen.size())
         return {{}, {kMeldungAnzahl}};
-    std::ranges::transform(teile, zahlen.begin(), fuehrendeZahl);
-    std::ranges::sort(zahlen);
     Zahlensuche suche;
-    for (const std::int32_t zahl : zahlen)
-        if (zahl < 1 || zahl > kHoechsteZahl)
+    for (std::size_t i = 0; i < zahlen.size(); ++i) {
+        const double zahl = fuehrendeDezimalzahl(teile[i]);
+        if (zahl >= 1 && zahl <= kHoechsteZahl)
+            zahlen[i] = static_cast<std::int32_t>(zahl);
+        else
             suche.meldungen.emplace_back(kMeldungZahl);
+    }
+    std::ranges::sort(zahlen);
     if (suche.meldungen.empty())
         suche.nummer = PositionszahlSumme(zahlen);
     return suche;

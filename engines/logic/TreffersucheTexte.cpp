@@ -6,20 +6,9 @@
 
 namespace {
 
-constexpr std::array<Rangliste, kRanglisten> kAlle{Rangliste::Drei, Rangliste::Vier, Rangliste::Fuenf, Rangliste::Sechs,
-                                                   Rangliste::Loser};
-
 std::string mitSchwelle(std::string_view titel, std::string_view vergleich, std::uint32_t schwelle)
 {
     return std::string(titel) + " (" + std::string(vergleich) + std::to_string(schwelle) + "):";
-}
-
-/// In the report a blank stands before the count of the list.
-std::string berichtstitel(const Treffersuche& suche, Rangliste liste)
-{
-    std::string titel = ranglistentitel(liste, suche.schwellen);
-    titel.pop_back();
-    return titel + ":  " + (liste == Rangliste::Loser ? "" : "Anzahl: ") + anzahltext(suche, liste);
 }
 
 } // namespace
@@ -77,8 +66,7 @@ std::string anzahltext(const Treffersuche& suche, Rangliste liste)
            std::to_string(suche.schwellen.SchwelleLoser) + ": " + zeilen;
 }
 
-std::string treffersucheBericht(const Treffersuche& suche, const Treffersucheangaben& angaben, bool absteigend,
-                                const Fortschritt& weiter)
+std::string treffersucheBericht(const Trefferbericht& angaben, const Fortschritt& weiter)
 {
     ClipReport bericht;
     bericht.zeile(kTreffersucheTitel).zeile("In die Auswertung einbezogene Ziehungen:");
@@ -88,15 +76,16 @@ std::string treffersucheBericht(const Treffersuche& suche, const Treffersucheang
 
     Takt takt(weiter);
     std::uint64_t erledigt = 0;
-    for (const Rangliste liste : kAlle) {
-        const Trefferrang& rang = suche.liste(liste);
-        bericht.leerzeile().zeile(berichtstitel(suche, liste)).zeile(kRanglistenkopf);
-        for (std::size_t i = 0; i < rang.anzahl(); ++i) {
-            bericht.zeile(rang.zeile(absteigend ? rang.anzahl() - 1 - i : i));
+    for (const Trefferbericht::Abschnitt& liste : angaben.listen) {
+        const bool loser = &liste == &angaben.listen.back();
+        bericht.leerzeile().zeile(liste.titel + ":  " + (loser ? "Anzahl:  " : "Anzahl: ") + liste.anzahl);
+        bericht.zeile(kRanglistenkopf);
+        for (std::size_t i = 0; i < liste.zeilen; ++i) {
+            bericht.zeile(liste.zeile(i));
             if (!takt.schritt(++erledigt))
                 return {};
         }
     }
-    bericht.leerzeile().zeile(angaben.frage + (suche.NurExakt ? " nein" : " ja"));
+    bericht.leerzeile().zeile(angaben.frage + (angaben.auchHoehere ? " ja" : " nein"));
     return bericht.leerzeile().schlusshinweis().text();
 }

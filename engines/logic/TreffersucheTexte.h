@@ -3,6 +3,7 @@
 #include "engines/logic/Treffersuche.h"
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -25,18 +26,25 @@ std::string vergleicheText(std::uint64_t erledigt, std::uint64_t ziehungen);
 /// What stands below a list: the count of its rows, for the worst ones with the count of all without a win.
 std::string anzahltext(const Treffersuche& suche, Rangliste liste);
 
-/// What the report says of the search besides its lists.
-struct Treffersucheangaben {
+/// What the report says, as it stands on the screen.
+struct Trefferbericht {
+    struct Abschnitt {
+        std::string titel;
+        std::string anzahl;
+        std::size_t zeilen = 0;
+        std::function<std::string(std::size_t)> zeile; ///< by its index
+    };
     std::array<std::string, 3> spielarten; ///< captions of the boxes
     std::array<std::string, 3> staende;    ///< what the file of each holds
     std::string ziehungen;                 ///< the line with the count of draws
-    std::string frage;                     ///< caption of the box that asks for higher ranks too
+    std::array<Abschnitt, kRanglisten> listen;
+    std::string frage; ///< caption of the box that asks for higher ranks too
+    bool auchHoehere = false;
 };
 
 /// Most rows that a report takes.
 inline constexpr std::size_t kHoechsteBerichtszeilen = 1'000'000;
 
-/// The report of a search whose lists stand ascending or descending. `weiter` is called now and then with the count of
-/// rows done; false ends it with the empty text. The lists have at most `kHoechsteBerichtszeilen` rows.
-std::string treffersucheBericht(const Treffersuche& suche, const Treffersucheangaben& angaben, bool absteigend,
-                                const Fortschritt& weiter = {});
+/// `weiter` is called now and then with the count of rows done; false ends the report with the empty text. The lists
+/// have at most `kHoechsteBerichtszeilen` rows.
+std::string treffersucheBericht(const Trefferbericht& angaben, const Fortschritt& weiter = {});

@@ -12,6 +12,17 @@ namespace {
 constexpr int kDreier = 3;
 constexpr int kSechser = 6;
 
+/// The draws as sets. A row whose columns do not ascend counts with the numbers from its first to its last column.
+std::vector<Zahlenmenge> reihen(const ZiehungsArchiv& archiv)
+{
+    std::vector<Zahlenmenge> mengen = ziehungsmengen(archiv);
+    for (std::size_t i = 0; i < mengen.size(); ++i)
+        for (std::int32_t zahl = 1; zahl <= kHoechsteZahl; ++zahl)
+            if (zahl < archiv.z1[i + 1] || zahl > archiv.z6[i + 1])
+                mengen[i] &= ~(Zahlenmenge{1} << zahl);
+    return mengen;
+}
+
 } // namespace
 
 Suchergebnis beginneSuche(int groesse)
@@ -38,7 +49,7 @@ void trageEin(Suchergebnis& ergebnis, std::span<const std::int32_t> zahlen, std:
 
 Vollsuche::Vollsuche(const ZiehungsArchiv& archiv, int groesse, Suchergebnis& ergebnis)
     : ergebnis_(ergebnis),
-      tafel_(kHoechsteZahl, ziehungsmengen(archiv))
+      tafel_(kHoechsteZahl, reihen(archiv))
 {
     ergebnis_ = beginneSuche(groesse);
 }

@@ -34,8 +34,8 @@ void trageEin(Suchergebnis& ergebnis, std::span<const std::int32_t> zahlen, std:
 /// Tests all combinations of one size in ascending order against all draws, one by one or the rest at once.
 ///
 /// The draws are counted once, at the start, for all their parts; a test then is a look into that table. A row of a
-/// file that is no draw of six different numbers 1..49 counts with the numbers that it has of them, in whatever order
-/// they stand.
+/// file that is no draw of six ascending numbers 1..49 counts with the numbers that it has of them, from that of its
+/// first column to that of its last.
 class Vollsuche {
 public:
     /// `groesse` is 2..6. `ergebnis` is begun anew, and can be read between two tests.

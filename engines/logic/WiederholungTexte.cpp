@@ -28,7 +28,7 @@ constexpr std::array<Wiederholungsname, 5> kNamen{{
      "Bitte warten, die Sechserkombinationen werden sortiert und gezählt ..."},
 }};
 
-constexpr std::string_view kWeiteMaske = "@@";
+constexpr std::string_view kMaskeAbVier = "@@"; ///< of the counts of four numbers and more
 constexpr std::size_t kZahlbreite = 3;
 
 constexpr std::string_view kStriche = "--------------------------------";
@@ -81,7 +81,7 @@ bool istKeineSechser(std::string_view ergebniszeile)
 
 std::string ergebniszeile(const Wiederholung& wiederholung, int k, const Wiederholungsart& art)
 {
-    std::string zeile = Format(wiederholung.anzahl, k <= 3 ? art.anzahlMaske : kWeiteMaske);
+    std::string zeile = Format(wiederholung.anzahl, k <= 3 ? art.anzahlMaske : kMaskeAbVier);
     zeile += k == 6 ? " mal->" : " mal -> ";
     for (std::size_t i = 0; i < static_cast<std::size_t>(k); ++i)
         zeile += Format(wiederholung.zahlen[i], "@@@");

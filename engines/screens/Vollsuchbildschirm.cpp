@@ -249,6 +249,6 @@ void Vollsuchbildschirm::uebernimmZeilen()
 {
     fuegeAn(Liste3, ergebnis_.wiederholungen, gezeigteWiederholungen_);
     fuegeAn(Liste1, ergebnis_.nieGezogene, gezeigteNieGezogene_);
-    if (ergebnis_.groesse == kDreier)
+    if (gezeigteNieGezogene_ > 0)
         Text1->setText(QString::number(GetListCount(&Liste1->modell())));
 }

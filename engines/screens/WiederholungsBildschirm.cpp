@@ -85,7 +85,7 @@ void WiederholungsBildschirm::baueFelder()
         neu.clip->setEnabled(vonAnfangAn);
         const auto zeichen = neu.k == 6 ? kKeineSechserwiederholungen.size() : ergebniszeile({}, neu.k, art_).size();
         neu.liste->setzeSichtbar(kListenzeilen, static_cast<int>(zeichen));
-        neu.liste->beiAuswahl = [this, &neu] { ZeigeDetail(neu); };
+        neu.liste->beiAuswahl = neu.liste->beiLoslassen = [this, &neu] { ZeigeDetail(neu); };
         bei(neu.suchen, [this, k = neu.k] { suche(k); });
         bei(neu.details, [this, &neu] { ZeigeDetails(neu); });
     }

@@ -68,7 +68,7 @@ private:
     void sperre(const Feld& hier);
     void gibFrei(const Feld& hier);
     void WiederholungsSuche(Feld& hier);
-    bool fuelleListe(Feld& hier, Lauf& lauf);
+    void fuelleListe(Feld& hier, Lauf& lauf);
     void zeigeAnzahl(const Feld& hier);
     void ZeigeDetails(const Feld& hier);
     void ZeigeDetail(const Feld& hier);

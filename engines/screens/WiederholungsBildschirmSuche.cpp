@@ -82,7 +82,8 @@ void WiederholungsBildschirm::WiederholungsSuche(Feld& hier)
             setzeTitel(qt(name.vergleichen));
         return lauf.zug() && !sollEnden();
     });
-    if (fuelleListe(hier, lauf)) {
+    fuelleListe(hier, lauf);
+    if (hier.ergebnis.vollstaendig) {
         txtH->zeige(zusammenfassung(hier.ergebnis));
         setzeTitel(qt(kSucheFertig));
     }
@@ -91,26 +92,23 @@ void WiederholungsBildschirm::WiederholungsSuche(Feld& hier)
     endetSuche();
 }
 
-/// False if the search was stopped, then or before; the lines so far stay.
-bool WiederholungsBildschirm::fuelleListe(Feld& hier, Lauf& lauf)
+/// What a stopped search has found goes into the list to its end; a stop in here leaves the lines so far.
+void WiederholungsBildschirm::fuelleListe(Feld& hier, Lauf& lauf)
 {
     ListenModell& modell = hier.liste->modell();
-    bool vollstaendig = hier.ergebnis.vollstaendig;
+    const bool warGestoppt = !hier.ergebnis.vollstaendig;
     hier.liste->setUpdatesEnabled(false);
     for (const Wiederholung& wiederholung : hier.ergebnis.mehrfache) {
         modell.AddItem(ergebniszeile(wiederholung, hier.k, art_));
         if (modell.ListCount() % kStueck == 0)
             modell.zeilen();
-        const bool weiter = lauf.weiter() && !sollEnden();
-        if (vollstaendig && !weiter) {
-            vollstaendig = false;
+        hier.ergebnis.vollstaendig = lauf.weiter() && !sollEnden() && !warGestoppt;
+        if (!hier.ergebnis.vollstaendig && !warGestoppt)
             break;
-        }
     }
-    if (vollstaendig && hier.k == 6 && modell.ListCount() == 0)
+    if (hier.ergebnis.vollstaendig && hier.k == 6 && modell.ListCount() == 0)
         modell.AddItem(std::string(kKeineSechserwiederholungen));
     hier.liste->setUpdatesEnabled(true);
-    return vollstaendig;
 }
 
 void WiederholungsBildschirm::zeigeAnzahl(const Feld& hier)

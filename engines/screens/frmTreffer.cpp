@@ -2,6 +2,7 @@
 
 #include "archive/logic/Ziehungsmengen.h"
 #include "engines/screens/Trefferdetails.h"
+#include "listcontrol/logic/ListBoxSort.h"
 #include "shell/elements/Infotafel.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
@@ -181,14 +182,15 @@ void frmTreffer::zeigeErgebnis()
 
 void frmTreffer::sortiere(bool absteigend)
 {
-    absteigend_ = absteigend;
     for (std::size_t i = 0; i < felder_.size(); ++i) {
         const Trefferrang& rang = ergebnis_.listen[i];
+        ListenModell& modell = felder_[i].liste->modell();
         if (rang.anzahl() == 0)
-            continue;
-        felder_[i].liste->modell().aufAnfrage(rang.anzahl(), [&rang, absteigend](std::size_t zeile) {
-            return rang.zeile(absteigend ? rang.anzahl() - 1 - zeile : zeile);
-        });
+            ListBoxSort(modell, absteigend);
+        else
+            modell.aufAnfrage(rang.anzahl(), [&rang, absteigend](std::size_t zeile) {
+                return rang.zeile(absteigend ? rang.anzahl() - 1 - zeile : zeile);
+            });
     }
 }
 
@@ -199,11 +201,29 @@ void frmTreffer::zeigeTreffer(Rangliste liste, int zeile)
         FrameDetail->zeige(*kombination);
 }
 
+Trefferbericht frmTreffer::angaben() const
+{
+    Trefferbericht angaben;
+    for (std::size_t i = 0; i < angaben.spielarten.size(); ++i) {
+        angaben.spielarten[i] = utf8(Frame1->beschriftung(static_cast<int>(i)));
+        angaben.staende[i] = utf8(Frame1->stand(static_cast<int>(i)));
+    }
+    angaben.ziehungen = utf8(Frame1->anzahltext());
+    for (std::size_t i = 0; i < felder_.size(); ++i) {
+        const ListenModell& modell = felder_[i].liste->modell();
+        angaben.listen[i] = {utf8(felder_[i].titel->text()), utf8(felder_[i].lblCount->text()), modell.ListCount(),
+                             [&modell](std::size_t zeile) { return modell.List(zeile); }};
+    }
+    angaben.frage = utf8(chkHoeher->text());
+    angaben.auchHoehere = chkHoeher->isChecked();
+    return angaben;
+}
+
 void frmTreffer::kopiere()
 {
     std::size_t zeilen = 0;
-    for (const Trefferrang& rang : ergebnis_.listen)
-        zeilen += rang.anzahl();
+    for (const Feld& feld : felder_)
+        zeilen += feld.liste->modell().ListCount();
     if (zeilen > kHoechsteBerichtszeilen) {
         umgebung().boxen.info(kProgrammtitel, qt("Die Ergebnislisten sind mit " + Format(zeilen, "#,###,###") +
                                                  " Zeilen zu lang für die Zwischenablage."));
@@ -212,12 +232,7 @@ void frmTreffer::kopiere()
     Lauf lauf(*this);
     if (!lauf)
         return;
-    Treffersucheangaben angaben{{}, {}, utf8(Frame1->anzahltext()), utf8(chkHoeher->text())};
-    for (int i = 0; i < 3; ++i) {
-        angaben.spielarten[static_cast<std::size_t>(i)] = utf8(Frame1->beschriftung(i));
-        angaben.staende[static_cast<std::size_t>(i)] = utf8(Frame1->stand(i));
-    }
-    const std::string bericht = treffersucheBericht(ergebnis_, angaben, absteigend_, lauf.fortschritt());
+    const std::string bericht = treffersucheBericht(angaben(), lauf.fortschritt());
     if (!bericht.empty())
         umgebung().zwischenablage.setze(qt(bericht));
 }

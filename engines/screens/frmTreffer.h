@@ -38,12 +38,12 @@ private:
     void zeigeErgebnis();
     void sortiere(bool absteigend);
     void zeigeTreffer(Rangliste liste, int zeile);
+    Trefferbericht angaben() const;
     void kopiere();
     void setzeBedienbar(bool bedienbar);
 
     std::int16_t spielartBeimLaden_;
     Treffersuche ergebnis_;
-    bool absteigend_ = false;
     std::array<Feld, kRanglisten> felder_{};
     Spielartenwahl* Frame1;
     Trefferdetails* FrameDetail;

@@ -121,7 +121,6 @@ void frmpos_calc::waehleRichtung()
         liesGewaehlte();
     if (zurKombination || istAufsteigend(gewaehlte_))
         Berechne();
-    gewaehlte_ = {};
 }
 
 void frmpos_calc::liesGewaehlte()

@@ -82,6 +82,13 @@ TEST(ZahlensucheTest, EinsUndNeunundvierzigGeltenTrotzDerMeldung)
     EXPECT_EQ(sucheZahlen("1 2 3 4 5 49").nummer, 44);
 }
 
+TEST(ZahlensucheTest, BruecheGeltenAlsDasWasSieSind)
+{
+    EXPECT_EQ(sucheZahlen("49.5 2 3 4 5 6").meldungen.size(), 1U);
+    EXPECT_EQ(sucheZahlen("0.9 2 3 4 5 6").meldungen.size(), 1U);
+    EXPECT_EQ(sucheZahlen("1.5 2 3 4 5 6").nummer, 1);
+}
+
 TEST(ZahlensucheTest, WiederholteZahlenGebenIhreSumme)
 {
     EXPECT_TRUE(sucheZahlen("1 1 2 3 4 5").nummer.has_value());

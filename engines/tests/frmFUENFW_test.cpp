@@ -107,6 +107,8 @@ TEST_F(Wiederholungssuche, ZweiGleicheZiehungenSindEineSechserwiederholung)
     EXPECT_EQ(lies("Bezeichnung9"), "1");
     EXPECT_EQ(gewaehlt("Liste6"), "0");
     EXPECT_TRUE(zeilen("Liste3").isEmpty());
+    EXPECT_TRUE(bedienung.lasseLos("Liste6").gelungen());
+    EXPECT_EQ(zeilen("Liste3").value(0), "Kombination: 15 25 27 30 42 48");
     EXPECT_TRUE(lies("txtH").contains("noch nie gezogene: 13.983.815\n"));
     klicke("Befehl8");
     EXPECT_EQ(zeilen("Liste3"),

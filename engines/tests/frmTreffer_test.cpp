@@ -2,6 +2,7 @@
 #include "tools/drive/Buehnentest.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTimer>
 
 namespace {
@@ -90,7 +91,29 @@ TEST_F(Trefferbildschirm, OhneSechserStehtEsInDerListe)
     waehle("lstSechs", {0});
     EXPECT_EQ(lies("FrameDetail"), "Detailliste");
     klicke("cmdSortAb");
-    EXPECT_EQ(anzahl("lstSechs"), 2);
+    EXPECT_EQ(zeilen("lstSechs"),
+              QStringList({"   keine Sechserwiederholungen.", "   Es gabe in den ausgewählten Ziehungen "}));
+}
+
+TEST_F(Trefferbildschirm, VorDerSucheStehtImBerichtWasAufDemBildschirmSteht)
+{
+    oeffneTreffer();
+    klicke("chkHoeher");
+    klicke("cmdClip");
+    const QString bericht = buehne.zwischenablage.text();
+    EXPECT_TRUE(bericht.contains("\r\n Kombinationen, die die meisten Dreier erbracht hätten::  Anzahl: 0\r\n"));
+    EXPECT_TRUE(bericht.contains("gehabt hätten? ja\r\n"));
+}
+
+TEST_F(Trefferbildschirm, FehlendeDateiWirdEinmalGemeldet)
+{
+    starte();
+    QFile::remove(ordner.filePath("MALOTTO.DAT"));
+    boxen();
+    oeffne("frmTreffer");
+    EXPECT_EQ(boxen().size(), 1);
+    EXPECT_EQ(lies("lblZ(0)"), "-");
+    EXPECT_TRUE(titel().startsWith("Suche nach Kombinationen"));
 }
 
 TEST_F(Trefferbildschirm, OhneSpielartSindDieSchwellenNull)
@@ -117,7 +140,7 @@ TEST_F(Trefferbildschirm, UebertraegtDieListen)
     klicke("cmdClip");
     const QString bericht = buehne.zwischenablage.text();
     EXPECT_TRUE(bericht.contains("\r\nSamstagsziehungen:      " + lies("lblZ(0)") + "\r\n"));
-    EXPECT_TRUE(bericht.contains("(>=17):  Anzahl: " + lies("lblCount(1)") + "\r\n"));
+    EXPECT_TRUE(bericht.contains("(>=17)::  Anzahl: " + lies("lblCount(1)") + "\r\n"));
     EXPECT_TRUE(bericht.contains("gehabt hätten? nein\r\n"));
     for (const QString& zeile : zeilen("lstFuenf"))
         EXPECT_TRUE(bericht.contains("\r\n" + zeile + "\r\n"));

@@ -2,11 +2,9 @@
 
 #include "shell/elements/Liste.h"
 
-#include <QEvent>
 #include <QPushButton>
 #include <QTimer>
 
-#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -27,9 +25,13 @@ AutomatischeAnzeige::AutomatischeAnzeige(QPushButton* cmdAuto_, const Beschriftu
 
 void AutomatischeAnzeige::fuehre(Liste* liste, NachLoslassen nachLoslassen)
 {
-    listen_.push_back({liste, nachLoslassen});
+    listen_.push_back({liste});
     liste->beiAuswahl = [this, liste] { melde(*liste); };
-    liste->viewport()->installEventFilter(this);
+    liste->beiDruecken = [this] { Timer1->stop(); };
+    liste->beiLoslassen = [this, nachLoslassen] {
+        if (nachLoslassen == NachLoslassen::Immer || cmdAuto->text() == beschriftung_.ein)
+            Timer1->start(kTakt);
+    };
 }
 
 void AutomatischeAnzeige::beginneVorn(const Liste* liste)
@@ -66,23 +68,4 @@ void AutomatischeAnzeige::melde(const Liste& liste) const
 {
     if (beiZeile)
         beiZeile(liste);
-}
-
-void AutomatischeAnzeige::lasseLos(const Gefuehrt& gefuehrt)
-{
-    if (gefuehrt.nachLoslassen == NachLoslassen::Immer || cmdAuto->text() == beschriftung_.ein)
-        Timer1->start(kTakt);
-}
-
-bool AutomatischeAnzeige::eventFilter(QObject* ziel, QEvent* ereignis)
-{
-    const auto gefuehrt = std::find_if(listen_.begin(), listen_.end(),
-                                       [ziel](const Gefuehrt& eine) { return eine.liste->viewport() == ziel; });
-    if (gefuehrt != listen_.end()) {
-        if (ereignis->type() == QEvent::MouseButtonPress || ereignis->type() == QEvent::MouseButtonDblClick)
-            Timer1->stop();
-        else if (ereignis->type() == QEvent::MouseButtonRelease)
-            lasseLos(*gefuehrt);
-    }
-    return QObject::eventFilter(ziel, ereignis);
 }

@@ -34,20 +34,15 @@ public:
     /// A row was chosen, by a tick or by the user: it is the current one of the list.
     std::function<void(const Liste&)> beiZeile;
 
-protected:
-    bool eventFilter(QObject* ziel, QEvent* ereignis) override;
-
 private:
     struct Gefuehrt {
         Liste* liste = nullptr;
-        NachLoslassen nachLoslassen = NachLoslassen::Immer;
         int zeile = 0; ///< that the last tick reached
     };
 
     void schalte();
     void ticke();
     void melde(const Liste& liste) const;
-    void lasseLos(const Gefuehrt& gefuehrt);
 
     std::vector<Gefuehrt> listen_;
     Beschriftung beschriftung_;

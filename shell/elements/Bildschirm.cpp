@@ -78,7 +78,7 @@ void Bildschirm::mausUeber(QWidget* feld)
 void Bildschirm::setzeInhalt(QLayout* inhalt)
 {
     inhalt->setContentsMargins(Stil::kRand, Stil::kRand, Stil::kRand, Stil::kRand);
-    statuszeile_ = bezeichnung("Statuszeile", grundtitel_);
+    statuszeile_ = bezeichnung("Statuszeile", grundtitel_.simplified());
     statuszeile_->setTextFormat(Qt::PlainText);
     statuszeile_->setContentsMargins(Stil::kRand, Stil::kEng, Stil::kRand, Stil::kEng);
     statuszeile_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

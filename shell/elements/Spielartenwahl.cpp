@@ -102,7 +102,7 @@ void Spielartenwahl::lade()
                      QString::number(bildschirm_.umgebung().archiv.AnzahlZiehungen));
 }
 
-/// After a failed load there is no field for the later files.
+/// A load that failed tells nothing of any file.
 void Spielartenwahl::zeigeStand(const QString& felder)
 {
     const QStringList teile = felder.split(':');

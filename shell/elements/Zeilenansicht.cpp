@@ -109,9 +109,19 @@ void Zeilenansicht::geheZu(int zeile, Qt::KeyboardModifiers tasten)
 
 void Zeilenansicht::mousePressEvent(QMouseEvent* ereignis)
 {
+    if (ereignis->button() != Qt::LeftButton)
+        return;
+    if (beiDruecken)
+        beiDruecken();
     const int zeile = zeileBei(ereignis->position().toPoint().y());
-    if (ereignis->button() == Qt::LeftButton && zeile >= 0)
+    if (zeile >= 0)
         waehle(zeile, ereignis->modifiers());
+}
+
+void Zeilenansicht::mouseReleaseEvent(QMouseEvent* ereignis)
+{
+    if (ereignis->button() == Qt::LeftButton && beiLoslassen)
+        beiLoslassen();
 }
 
 void Zeilenansicht::mouseMoveEvent(QMouseEvent* ereignis)

@@ -37,6 +37,8 @@ public:
     void gleicheAb();
 
     std::function<void()> beiAuswahl;        ///< the user has chosen a row
+    std::function<void()> beiDruecken;       ///< the user has pressed the mouse over the list
+    std::function<void()> beiLoslassen;      ///< and released it
     std::function<void(int)> beiDoppelklick; ///< the user has double clicked a row
 
 protected:
@@ -61,6 +63,7 @@ protected:
     void paintEvent(QPaintEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
     void mouseMoveEvent(QMouseEvent* ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;

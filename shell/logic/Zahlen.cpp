@@ -51,6 +51,16 @@ std::int32_t fuehrendeZahl(std::string_view text)
     return gelesen.wert;
 }
 
+double fuehrendeDezimalzahl(std::string_view text)
+{
+    std::string_view zahl = trim(text);
+    if (zahl.starts_with('+') && !zahl.starts_with("+-"))
+        zahl.remove_prefix(1);
+    double wert = 0;
+    const auto [ende, fehler] = std::from_chars(zahl.data(), zahl.data() + zahl.size(), wert, std::chars_format::fixed);
+    return fehler == std::errc() && std::isfinite(wert) ? wert : 0;
+}
+
 std::int64_t rundeZurGeraden(double wert)
 {
     using Grenzen = std::numeric_limits<std::int64_t>;

@@ -14,6 +14,10 @@ std::optional<std::int32_t> ganzzahl(std::string_view text);
 /// gives the nearest one that fits.
 std::int32_t fuehrendeZahl(std::string_view text);
 
+/// The number with a decimal point that the text begins with, behind blanks and a sign; 0 if there is none or it
+/// is too large for any.
+double fuehrendeDezimalzahl(std::string_view text);
+
 /// The numbers with two digits or more each and one blank between: "01 02 49".
 std::string zahlentext(std::span<const std::int32_t> zahlen);
 

@@ -76,6 +76,18 @@ TEST(RundeZurGeraden, WasKeineGanzeZahlWerdenKann)
     EXPECT_EQ(rundeZurGeraden(-1e300), INT64_MIN);
 }
 
+TEST(FuehrendeDezimalzahl, MitPunktUndOhne)
+{
+    EXPECT_EQ(fuehrendeDezimalzahl(" 49.5"), 49.5);
+    EXPECT_EQ(fuehrendeDezimalzahl("7x"), 7);
+    EXPECT_EQ(fuehrendeDezimalzahl("-3"), -3);
+    EXPECT_EQ(fuehrendeDezimalzahl("+3.25"), 3.25);
+    EXPECT_EQ(fuehrendeDezimalzahl("1,5"), 1);
+    for (const char* keine : {"", "x", "inf", "nan"})
+        EXPECT_EQ(fuehrendeDezimalzahl(keine), 0) << keine;
+    EXPECT_EQ(fuehrendeDezimalzahl(std::string(400, '9')), 0);
+}
+
 TEST(Zahlentext, ZweiStellenUndEinLeerzeichen)
 {
     EXPECT_EQ(zahlentext({}), "");
