@@ -18,9 +18,10 @@ Fensterrollen::Fensterrollen(Liste& liste, QScrollBar& leiste, int zeilen)
 
 bool Fensterrollen::eventFilter(QObject* feld, QEvent* ereignis)
 {
-    if (feld == liste_.viewport() && ereignis->type() == QEvent::Wheel)
+    // The type comes first: the last events arrive while the list is being taken down.
+    if (ereignis->type() == QEvent::Wheel && feld == liste_.viewport())
         return QCoreApplication::sendEvent(&leiste_, ereignis);
-    if (feld == &liste_ && ereignis->type() == QEvent::KeyPress)
+    if (ereignis->type() == QEvent::KeyPress && feld == &liste_)
         return drueckt(static_cast<QKeyEvent*>(ereignis)->key());
     return false;
 }
