@@ -13,6 +13,16 @@
 
 namespace {
 
+const std::vector<std::string> kInfo{
+    "Klickt man auf eine gefundene Kombination in den einzelnen ",
+    "Ergebnislisten, werden in der rechten Detailliste die Ziehungen",
+    "und das Ziehungsdatum für diese Kombination angezeigt.",
+    "",
+    "Button \"Details\": In der rechten Detailliste werden für alle",
+    "gefundenen Kombinationen die Ziehungen und das Ziehungsdatum",
+    "angezeigt.",
+};
+
 struct Feldnamen {
     const char *suchen, *beschriftung, *liste, *details, *clip, *hinweis;
 };
@@ -42,7 +52,7 @@ QString titelAller(int k)
 } // namespace
 
 WiederholungsBildschirm::WiederholungsBildschirm(Umgebung& umgebung, const QString& name, const QString& titel,
-                                                 const Wiederholungsart& art, std::vector<std::string> info)
+                                                 const Wiederholungsart& art, const std::vector<std::string>& hinweise)
     : Bildschirm(umgebung, name, titel),
       art_(art),
       details_(std::make_shared<Detailzeilen>())
@@ -60,6 +70,8 @@ WiederholungsBildschirm::WiederholungsBildschirm(Umgebung& umgebung, const QStri
     Rahmen2 = rahmen("Rahmen2", "Detailliste", spalte({Text15, dehnbar(Liste3), zeile({Befehl18, luecke()})}));
 
     txtH->zeige(leereWiederholungszusammenfassung());
+    std::vector<std::string> info = kInfo;
+    info.insert(info.end(), hinweise.begin(), hinweise.end());
     Liste2->modell().fuelle(std::move(info));
     Liste2->setzeSichtbar(Liste2->zeilenzahl() + 1, 64);
     Liste3->setzeSichtbar(kDetailzeilen, static_cast<int>(art.striche));

@@ -32,9 +32,9 @@ protected:
         Wiederholungen ergebnis;
     };
 
-    /// `info` is the explanation, line by line.
+    /// `hinweise` are lines of the explanation behind those of both screens.
     WiederholungsBildschirm(Umgebung& umgebung, const QString& name, const QString& titel, const Wiederholungsart& art,
-                            std::vector<std::string> info);
+                            const std::vector<std::string>& hinweise = {});
 
     Feld& feld(int k) { return felder_[static_cast<std::size_t>(k - kKleinsteWiederholung)]; }
     const Feld& feld(int k) const { return felder_[static_cast<std::size_t>(k - kKleinsteWiederholung)]; }

@@ -13,14 +13,8 @@
 
 namespace {
 
-const std::vector<std::string> kInfo{
-    "Klickt man auf eine gefundene Kombination in den einzelnen ",
-    "Ergebnislisten, werden in der rechten Detailliste die Ziehungen",
-    "und das Ziehungsdatum für diese Kombination angezeigt.",
-    "",
-    "Button \"Details\": In der rechten Detailliste werden für alle",
-    "gefundenen Kombinationen die Ziehungen und das Ziehungsdatum",
-    "angezeigt.",
+/// What holds for one game alone.
+const std::vector<std::string> kHinweise{
     "",
     "Hinweis:",
     "Sechserwiederholungen traten innerhalb einer Spielart bis",
@@ -50,7 +44,7 @@ std::string ziehungsbereich(const ZiehungsArchiv& archiv)
 
 frmFÜNFW::frmFÜNFW(Umgebung& umgebung)
     : WiederholungsBildschirm(umgebung, "frmFÜNFW", "Zweier-, Dreier-, Vierer-, Fünfer- und Sechserwiederholungen",
-                              kEineSpielart, kInfo)
+                              kEineSpielart, kHinweise)
 {
     for (std::size_t i = 0; i < kAnzahlen.size(); ++i)
         feld(kKleinsteWiederholung + static_cast<int>(i)).anzahl = bezeichnung(kAnzahlen[i]);

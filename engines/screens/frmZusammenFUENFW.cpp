@@ -11,25 +11,11 @@
 #include <QLabel>
 #include <QPushButton>
 
-namespace {
-
-const std::vector<std::string> kInfo{
-    "Klickt man auf eine gefundene Kombination in den einzelnen ",
-    "Ergebnislisten, werden in der rechten Detailliste die Ziehungen",
-    "und das Ziehungsdatum für diese Kombination angezeigt.",
-    "",
-    "Button \"Details\": In der rechten Detailliste werden für alle",
-    "gefundenen Kombinationen die Ziehungen und das Ziehungsdatum",
-    "angezeigt.",
-};
-
-} // namespace
-
 frmZusammenFÜNFW::frmZusammenFÜNFW(Umgebung& umgebung)
     : WiederholungsBildschirm(umgebung, "frmZusammenFÜNFW",
                               "Zweier-, Dreier-, Vierer-, Fünfer- und Sechserwiederholungen für Sa + Mi + Mi(B) "
                               "zusammen",
-                              kAlleSpielarten, kInfo)
+                              kAlleSpielarten)
 {
     frmArt = new Spielartenwahl(*this);
     lstNGD = liste("lstNGD");
