@@ -2,6 +2,7 @@
 
 #include "shell/logic/Binomial.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -18,7 +19,7 @@ inline constexpr int kVektorUeberhang = 32;
 ///
 /// where the table rows are those of the choices of j - 2 of the first numbers.
 template <class Zaehler, int K> struct Blockauftrag {
-    static constexpr std::size_t kGroesste = K < 5 ? K : 5; ///< size of the largest sets that stand in a table
+    static constexpr std::size_t kGroesste = std::min(K, 5); ///< size of the largest sets that stand in a table
     static constexpr std::size_t zeilenzahl(std::size_t j)
     {
         return static_cast<std::size_t>(Binomial(K - 2, static_cast<int>(j) - 2));

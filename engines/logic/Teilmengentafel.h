@@ -34,7 +34,7 @@ public:
 
     // The tables are looked into by address.
     Teilmengentafel(const Teilmengentafel&) = delete;
-    Teilmengentafel(Teilmengentafel&&) = default;
+    Teilmengentafel(Teilmengentafel&&) noexcept = default;
 
     int n() const { return n_; }
 

@@ -59,7 +59,7 @@ std::string vergleicheText(std::uint64_t erledigt, std::uint64_t ziehungen)
 
 std::string anzahltext(const Treffersuche& suche, Rangliste liste)
 {
-    const std::string zeilen = std::to_string(suche.liste(liste).anzahl());
+    std::string zeilen = std::to_string(suche.liste(liste).anzahl());
     if (liste != Rangliste::Loser)
         return zeilen;
     return "Anzahl gesamt: " + Format(suche.AnzahlOhneGewinn, "###,###") + " davon Kombinationen mit Anz. < " +
