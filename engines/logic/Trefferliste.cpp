@@ -6,6 +6,7 @@
 #include "shell/logic/Zahlen.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -24,6 +25,31 @@ constexpr bool istZahl(Trefferfeld feld)
     return feld >= Zahl1 && feld <= Zahl6;
 }
 
+/// From the left to the right: year and week, the six numbers, and what each list adds behind a separator.
+template <std::size_t kAnzahl>
+constexpr std::array<Trefferspalte, kAnzahl> spalten(const Trefferspalte& erste,
+                                                     std::initializer_list<Trefferspalte> letzte)
+{
+    std::array<Trefferspalte, kAnzahl> alle{{
+        erste,
+        {"trenner1"},
+        {"zahl1", "Z1", Zahl1, 2},
+        {"trenner2"},
+        {"zahl2", "Z2", Zahl2, 2},
+        {"trenner3"},
+        {"zahl3", "Z3", Zahl3, 2},
+        {"trenner4"},
+        {"zahl4", "Z4", Zahl4, 2},
+        {"trenner5"},
+        {"zahl5", "Z5", Zahl5, 2},
+        {"trenner6"},
+        {"zahl6", "Z6", Zahl6, 2},
+        {"trenner7"},
+    }};
+    std::ranges::copy(letzte, alle.end() - static_cast<std::ptrdiff_t>(letzte.size()));
+    return alle;
+}
+
 std::string zahlzelle(std::int32_t zahl, const Kombination& kombination)
 {
     const bool richtig = std::find(kombination.begin(), kombination.end(), zahl) != kombination.end();
@@ -32,49 +58,16 @@ std::string zahlzelle(std::int32_t zahl, const Kombination& kombination)
 
 } // namespace
 
-// clang-format off
-const std::array<Trefferspalte, 19> kTrefferspaltenMitSuperzahl{{
-    {"", "Jahr/SW", JahrUndWoche, 7},
-    {"trenner1"},
-    {"zahl1", "Z1", Zahl1, 2},
-    {"trenner2"},
-    {"zahl2", "Z2", Zahl2, 2},
-    {"trenner3"},
-    {"zahl3", "Z3", Zahl3, 2},
-    {"trenner4"},
-    {"zahl4", "Z4", Zahl4, 2},
-    {"trenner5"},
-    {"zahl5", "Z5", Zahl5, 2},
-    {"trenner6"},
-    {"zahl6", "Z6", Zahl6, 2},
-    {"trenner7"},
-    {"SZ", "SZ", Superzahl, 2},
-    {"trenner8"},
-    {"Gew.", "Gew.", Gewinn, 4},
-    {"trenner9"},
-    {"S/M", "S/M", Ziehungstag, 5},
-}};
+constinit const std::array<Trefferspalte, 19> kTrefferspaltenMitSuperzahl =
+    spalten<19>({"", "Jahr/SW", JahrUndWoche, 7}, {Trefferspalte{"SZ", "SZ", Superzahl, 2},
+                                                   {"trenner8"},
+                                                   {"Gew.", "Gew.", Gewinn, 4},
+                                                   {"trenner9"},
+                                                   {"S/M", "S/M", Ziehungstag, 5}});
 
-const std::array<Trefferspalte, 17> kTrefferspalten{{
-    {"Jahr/SW", "Jahr/SW", JahrUndWoche, 7},
-    {"trenner1"},
-    {"zahl1", "Z1", Zahl1, 2},
-    {"trenner2"},
-    {"zahl2", "Z2", Zahl2, 2},
-    {"trenner3"},
-    {"zahl3", "Z3", Zahl3, 2},
-    {"trenner4"},
-    {"zahl4", "Z4", Zahl4, 2},
-    {"trenner5"},
-    {"zahl5", "Z5", Zahl5, 2},
-    {"trenner6"},
-    {"zahl6", "Z6", Zahl6, 2},
-    {"trenner7"},
-    {"Gewinn", "Gewinn", Gewinn, 6},
-    {"trenner8"},
-    {"Spielart", "Sa/Mi", Ziehungstag, 5},
-}};
-// clang-format on
+constinit const std::array<Trefferspalte, 17> kTrefferspalten =
+    spalten<17>({"Jahr/SW", "Jahr/SW", JahrUndWoche, 7},
+                {Trefferspalte{"Gewinn", "Gewinn", Gewinn, 6}, {"trenner8"}, {"Spielart", "Sa/Mi", Ziehungstag, 5}});
 
 std::vector<Gewinnfall> gewinnfaelle(const ZiehungsArchiv& archiv, const Kombination& kombination,
                                      std::optional<std::int32_t> superzahl)

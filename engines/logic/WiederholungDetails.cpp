@@ -1,40 +1,27 @@
 #include "engines/logic/WiederholungDetails.h"
 
-#include "archive/logic/Zahlenmenge.h"
+#include "engines/logic/Ziehungsbits.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Zahlen.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 
 namespace {
 
 constexpr std::size_t kZeilenlaenge = 48;
 
-/// The draws of the archive as sets of bits, one set for each number 1..49, so that the draws with several numbers are
-/// found 64 at a time. Draws count from 1.
-class Ziehungsmengen {
+/// Finds the draws that hold several numbers.
+class Ziehungssuche {
 public:
-    explicit Ziehungsmengen(const ZiehungsArchiv& archiv)
-        : archiv_(archiv),
-          worte_(static_cast<std::size_t>(archiv.AnzahlZiehungen) / kBits + 1)
-    {
-        mengen_.fill(std::vector<std::uint64_t>(worte_));
-        for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr) {
-            setze(mengen_[0], nr);
-            for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
-                if (istZahl(zahl))
-                    setze(mengen_[static_cast<std::size_t>(zahl)], nr);
-        }
-    }
+    explicit Ziehungssuche(const ZiehungsArchiv& archiv) : archiv_(archiv), bits_(archiv) {}
 
-    /// Calls `tue` with each draw that holds all these numbers.
+    /// Calls `tue` with each draw that holds all these numbers, oldest first.
     template <class Tue> void mitAllen(std::span<const std::int32_t> zahlen, Tue tue) const
     {
-        for (std::size_t wort = 0; wort < worte_; ++wort) {
-            for (std::uint64_t rest = gemeinsame(zahlen, wort); rest != 0; rest &= rest - 1) {
-                const std::size_t nr = wort * kBits + static_cast<std::size_t>(std::countr_zero(rest));
+        for (std::size_t wort = 0; wort < bits_.woerter(); ++wort) {
+            for (Ziehungsbits::Wort rest = gemeinsame(zahlen, wort); rest != 0; rest &= rest - 1) {
+                const std::size_t nr = wort * Ziehungsbits::kBits + static_cast<std::size_t>(std::countr_zero(rest));
                 if (haeltAlleAnderen(nr, zahlen))
                     tue(nr);
             }
@@ -42,33 +29,24 @@ public:
     }
 
 private:
-    static constexpr std::size_t kBits = 64;
-
-    static bool istZahl(std::int32_t zahl) { return zahl >= 1 && zahl <= kHoechsteZahl; }
-    static void setze(std::vector<std::uint64_t>& menge, std::size_t nr)
+    Ziehungsbits::Wort gemeinsame(std::span<const std::int32_t> zahlen, std::size_t wort) const
     {
-        menge[nr / kBits] |= std::uint64_t{1} << nr % kBits;
-    }
-
-    std::uint64_t gemeinsame(std::span<const std::int32_t> zahlen, std::size_t wort) const
-    {
-        std::uint64_t alle = mengen_[0][wort];
+        Ziehungsbits::Wort alle = bits_.spalte(0)[wort];
         for (const std::int32_t zahl : zahlen)
-            alle &= mengen_[istZahl(zahl) ? static_cast<std::size_t>(zahl) : 0][wort];
+            alle &= bits_.spalte(Ziehungsbits::hatSpalte(zahl) ? zahl : 0)[wort];
         return alle;
     }
 
-    /// What is no number 1..49 has no set and is looked for in the draw.
+    /// What has no column is looked for in the draw.
     bool haeltAlleAnderen(std::size_t nr, std::span<const std::int32_t> zahlen) const
     {
         return std::ranges::all_of(zahlen, [&](std::int32_t zahl) {
-            return istZahl(zahl) || std::ranges::count(archiv_.gewinnzahlen(nr), zahl) > 0;
+            return Ziehungsbits::hatSpalte(zahl) || std::ranges::count(archiv_.gewinnzahlen(nr), zahl) > 0;
         });
     }
 
     const ZiehungsArchiv& archiv_;
-    std::size_t worte_;
-    std::array<std::vector<std::uint64_t>, kHoechsteZahl + 1> mengen_; ///< [0] all draws
+    Ziehungsbits bits_;
 };
 
 /// The texts of the draws, each made when it is first needed.
@@ -119,7 +97,7 @@ Detailzeilen wiederholungDetails(const ZiehungsArchiv& archiv, int k, const Wied
 {
     Detailzeilen zeilen;
     const std::uint32_t striche = zeilen.merke(std::string(art.striche, '-'));
-    const Ziehungsmengen mengen(archiv);
+    const Ziehungssuche suche(archiv);
     Ziehungstexte texte(archiv, art, zeilen);
     Takt takt(fortschritt);
     std::uint64_t erledigt = 0;
@@ -129,8 +107,8 @@ Detailzeilen wiederholungDetails(const ZiehungsArchiv& archiv, int k, const Wied
         zeilen.haengeAn(zeilen.merke("Kombination:" + std::string(zahlenteil(ergebniszeile, k))));
         zeilen.haengeAn(striche);
         const auto zahlen = zahlenDerZeile(ergebniszeile, k);
-        mengen.mitAllen(std::span(zahlen).first(static_cast<std::size_t>(k)),
-                        [&texte](std::size_t nr) { texte.haengeAn(nr); });
+        suche.mitAllen(std::span(zahlen).first(static_cast<std::size_t>(k)),
+                       [&texte](std::size_t nr) { texte.haengeAn(nr); });
         zeilen.haengeAn(striche);
     }
     return zeilen;

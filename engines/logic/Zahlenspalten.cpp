@@ -1,15 +1,13 @@
 #include "engines/logic/Zahlenspalten.h"
 
-#include "archive/logic/Zahlenmenge.h"
 #include "engines/logic/Trefferliste.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace {
 
-using Wort = std::uint64_t;
-
-constexpr std::size_t kBits = 64;
+using Wort = Ziehungsbits::Wort;
 
 /// A sum of up to 7 in each of the 64 places.
 struct Summe {
@@ -38,28 +36,20 @@ Summe summe(Wort a, Wort b, Wort c, Wort d, Wort e, Wort f)
 } // namespace
 
 Zahlenspalten::Zahlenspalten(const ZiehungsArchiv& archiv, std::int32_t superzahl)
-    : woerter_(static_cast<std::size_t>(archiv.AnzahlZiehungen) / kBits + 1),
-      bits_((kHoechsteZahl + 1) * woerter_),
-      mitSuperzahl_(woerter_)
+    : bits_(archiv),
+      mitSuperzahl_(bits_.woerter())
 {
-    const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
-    for (std::size_t nr = 1; nr <= letzte; ++nr) {
-        const std::size_t wort = nr / kBits;
-        const Wort bit = Wort{1} << nr % kBits;
-        for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
-            if (zahl >= 1 && zahl <= kHoechsteZahl)
-                bits_[static_cast<std::size_t>(zahl) * woerter_ + wort] |= bit;
+    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr)
         if (istSuperzahl(archiv.s[nr], superzahl))
-            mitSuperzahl_[wort] |= bit;
-    }
+            Ziehungsbits::setze(mitSuperzahl_.data(), nr);
 }
 
 Trefferzaehler Zahlenspalten::zaehle(const Kombination& kombination) const
 {
-    const auto [a, b, c, d, e, f] = kombination;
-    const std::array spalten{spalte(a), spalte(b), spalte(c), spalte(d), spalte(e), spalte(f)};
+    std::array<const Wort*, 6> spalten{};
+    std::ranges::transform(kombination, spalten.begin(), [this](std::int32_t zahl) { return bits_.spalte(zahl); });
     Trefferzaehler zaehler;
-    for (std::size_t wort = 0; wort < woerter_; ++wort) {
+    for (std::size_t wort = 0; wort < bits_.woerter(); ++wort) {
         const Summe treffer = summe(spalten[0][wort], spalten[1][wort], spalten[2][wort], spalten[3][wort],
                                     spalten[4][wort], spalten[5][wort]);
         const Wort superzahl = mitSuperzahl_[wort];
