@@ -100,9 +100,15 @@ TEST(GestellteUhr, MitternachtBeginntBeiNull)
 
 TEST(SystemUhr, GehtWieDieDesRechners)
 {
-    const std::time_t vorher = std::time(nullptr);
+    // std::time may lag behind the clock by a tick of the system, and then by a second.
+    const auto utc = [] {
+        std::timespec jetzt{};
+        EXPECT_EQ(std::timespec_get(&jetzt, TIME_UTC), TIME_UTC);
+        return jetzt.tv_sec;
+    };
+    const std::time_t vorher = utc();
     const Zeitpunkt zeit = SystemUhr().jetzt();
-    const std::time_t nachher = std::time(nullptr);
+    const std::time_t nachher = utc();
     const std::time_t sekunden = floor<seconds>(zeit).time_since_epoch().count();
     const auto alsOrtszeit = [](std::time_t t) {
         std::tm teile{};
