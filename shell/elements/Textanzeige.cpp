@@ -15,6 +15,9 @@ Textanzeige::Textanzeige(const QString& name, int zeilen, int zeichen, QWidget* 
     setReadOnly(true);
     setLineWrapMode(NoWrap);
     setTabChangesFocus(true);
+    // The text has its room; bars that came up before the layout gave it would stay.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 void Textanzeige::zeige(std::string_view text)

@@ -7,7 +7,7 @@
 /// A text of several lines that a screen shows and the user can only read and copy: fixed pitch, never wrapped.
 class Textanzeige final : public QPlainTextEdit {
 public:
-    /// Room for this many rows and characters without scrolling, at least.
+    /// Room for this many rows and characters, at least; the texts are no longer than that.
     Textanzeige(const QString& name, int zeilen, int zeichen, QWidget* eltern);
 
     /// Lines are separated by CR LF or LF.
