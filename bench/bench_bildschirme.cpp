@@ -1,9 +1,10 @@
-#include "shell/app/Programm.h"
+#include "shell/app/Programmstart.h"
+#include "shell/elements/Programm.h"
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Liste.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Zufall.h"
-#include "tools/drive/Bedienung.h"
+#include "tools/drive/Menueweg.h"
 #include "tools/muster/MusterDateien.h"
 
 #include <QFile>
@@ -204,7 +205,8 @@ void menueAusDemNichts(benchmark::State& stand)
     std::unique_ptr<Buehne> buehne;
     messe(stand, 0.4, [&buehne] {
         buehne = std::make_unique<Buehne>(verzeichnis());
-        buehne->starte();
+        registriereBildschirme(buehne->bildschirme);
+        starteProgramm(buehne->umgebung);
         maleOffene(*buehne);
     });
 }
@@ -213,9 +215,11 @@ void menueAusDemNichts(benchmark::State& stand)
 void oeffneUndSchliesse(benchmark::State& stand)
 {
     Buehne buehne(verzeichnis());
-    buehne.starte();
+    registriereBildschirme(buehne.bildschirme);
+    starteProgramm(buehne.umgebung);
     maleOffene(buehne);
     Bedienung bedienung(buehne);
+    bedienung.ausMenue = [&](const QString& bildschirm) { return geheAusMenue(bedienung, buehne, bildschirm); };
     bool gelungen = true;
     messe(stand, 0.1, [&] {
         gelungen = bedienung.oeffne("frmSTAT1").gelungen() && gelungen;

@@ -3,7 +3,7 @@
 #include "archive/logic/HttpKopf.h"
 #include "archive/logic/clsDownload.h"
 #include "archive/screens/HttpInternet.h"
-#include "archive/tests/Testserver.h"
+#include "testhilfen/Testserver.h"
 
 #include <QCoreApplication>
 

@@ -1,5 +1,5 @@
 #include "listcontrol/logic/ListBoxSort.h"
-#include "listcontrol/logic/ListenModell.h"
+#include "shell/logic/ListenModell.h"
 #include "listcontrol/logic/modShellSort.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Zufall.h"

@@ -29,17 +29,43 @@ function(tombrix_bildschirme name)
     endif()
 endfunction()
 
-# LABEL is one of logic, gui, architektur, real, long. A `gui` program stands on the stage of tools/drive, which brings
+# Tests are compiled without optimisation, which halves their compile time, and share a precompiled header for each of
+# their two kinds. A program with plain loops over millions of combinations asks for optimisation with OPTIMIERT.
+function(tombrix_uebersetze_test name art)
+    target_compile_options(${name} PRIVATE -O0)
+    set(traeger testkopf_${art})
+    if(NOT TARGET ${traeger})
+        add_executable(${traeger} EXCLUDE_FROM_ALL ${CMAKE_SOURCE_DIR}/cmake/testkopf.cpp)
+        target_compile_options(${traeger} PRIVATE -O0)
+        target_link_libraries(${traeger} PRIVATE GTest::gmock GTest::gtest)
+        set(kopf <algorithm> <array> <chrono> <filesystem> <fstream> <functional> <map> <random> <sstream> <string>
+            <vector> <gmock/gmock.h> <gtest/gtest.h>)
+        if(art STREQUAL "gui")
+            target_link_libraries(${traeger} PRIVATE Qt6::Widgets)
+            target_compile_definitions(${traeger} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+            list(APPEND kopf <QtWidgets>)
+        endif()
+        target_precompile_headers(${traeger} PRIVATE ${kopf})
+    endif()
+    target_precompile_headers(${name} REUSE_FROM ${traeger})
+endfunction()
+
+# LABEL is one of logic, gui, architektur, real, long. A `gui` program stands on the stage of testhilfen/, which brings
 # its main(). The target tests-<label> builds all programs of a label.
 function(tombrix_test name)
-    cmake_parse_arguments(ziel "" "LABEL" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ziel "OPTIMIERT" "LABEL" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ziel_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ziel_LINKS} GTest::gmock GTest::gtest)
     if(ziel_LABEL STREQUAL "gui")
         target_link_libraries(${name} PRIVATE buehnentest)
+        set(art gui)
     else()
         target_link_libraries(${name} PRIVATE GTest::gtest_main)
+        set(art logik)
+    endif()
+    if(NOT ziel_OPTIMIERT)
+        tombrix_uebersetze_test(${name} ${art})
     endif()
     if(NOT TARGET tests-${ziel_LABEL})
         add_custom_target(tests-${ziel_LABEL})
@@ -50,11 +76,16 @@ function(tombrix_test name)
         PROPERTIES LABELS ${ziel_LABEL} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
 
+# Benchmarks are built by the target `benchmarks` only.
 function(tombrix_bench name)
     cmake_parse_arguments(ziel "" "" "SOURCES;LINKS" ${ARGN})
-    add_executable(${name} ${ziel_SOURCES})
+    add_executable(${name} EXCLUDE_FROM_ALL ${ziel_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ziel_LINKS} benchmark::benchmark)
+    if(NOT TARGET benchmarks)
+        add_custom_target(benchmarks)
+    endif()
+    add_dependencies(benchmarks ${name})
 endfunction()
 
 # Everything that `ziel` links, directly or through another target.

@@ -1,5 +1,6 @@
 #include "archive/screens/Editor.h"
 
+#include "archive/logic/ZiehungsArchiv.h"
 #include "shell/elements/Umgebung.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Dateien.h"

@@ -3,6 +3,7 @@
 #include "archive/logic/Ziehungsschreiber.h"
 #include "archive/screens/AnzeigeTexte.h"
 #include "archive/screens/Editor.h"
+#include "archive/screens/Spielartlader.h"
 #include "shell/elements/Umgebung.h"
 #include "shell/elements/Utf8.h"
 

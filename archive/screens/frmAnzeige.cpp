@@ -2,6 +2,7 @@
 
 #include "archive/screens/AnzeigeTexte.h"
 #include "archive/screens/Editor.h"
+#include "archive/screens/Spielartlader.h"
 #include "archive/screens/Ziehungsfelder.h"
 #include "archive/screens/Ziehungsspeicher.h"
 #include "shell/elements/Lauf.h"

@@ -1,6 +1,7 @@
 #include "archive/screens/frmOnline.h"
 
 #include "archive/screens/Fortschrittsfeld.h"
+#include "archive/screens/Spielartlader.h"
 #include "archive/screens/Updateserver.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Utf8.h"

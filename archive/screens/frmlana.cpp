@@ -1,6 +1,7 @@
 #include "archive/screens/frmlana.h"
 
 #include "archive/logic/Dateiinhalt.h"
+#include "archive/logic/ZiehungsArchiv.h"
 #include "archive/screens/Editor.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"

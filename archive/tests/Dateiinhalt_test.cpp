@@ -1,6 +1,6 @@
 #include "archive/logic/Dateiinhalt.h"
 
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

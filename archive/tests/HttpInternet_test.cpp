@@ -1,7 +1,7 @@
 #include "archive/logic/clsDownload.h"
 #include "archive/screens/HttpInternet.h"
-#include "archive/tests/Testserver.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Testserver.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <QCoreApplication>
 #include <QCursor>

@@ -1,6 +1,6 @@
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/tests/Testsaetze.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <gtest/gtest.h>
 #include <vector>

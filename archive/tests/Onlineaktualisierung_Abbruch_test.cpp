@@ -4,7 +4,7 @@
 #include "archive/logic/clsDownload.h"
 #include "archive/tests/Probeinternet.h"
 #include "archive/tests/Testsaetze.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <csignal>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include "archive/logic/Onlineaktualisierung.h"
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/clsDownload.h"
-#include "archive/tests/Kindprozess.h"
+#include "testhilfen/Kindprozess.h"
 #include "archive/tests/Probeinternet.h"
 #include "archive/tests/Testsaetze.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

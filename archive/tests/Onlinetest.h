@@ -1,13 +1,13 @@
 #pragma once
 
-#include "archive/tests/Testserver.h"
-#include "tools/drive/Buehnentest.h"
+#include "testhilfen/Testserver.h"
+#include "archive/tests/Archivbildschirmtest.h"
 
 #include <QDir>
 #include <QFile>
 
 /// The screen of the online update against a server on this machine.
-class Onlinetest : public Buehnentest {
+class Onlinetest : public Archivbildschirmtest {
 protected:
     void oeffneOnline()
     {

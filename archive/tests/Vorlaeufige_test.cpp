@@ -1,5 +1,5 @@
 #include "archive/logic/Vorlaeufige.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>

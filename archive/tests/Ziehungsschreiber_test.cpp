@@ -1,7 +1,7 @@
 #include "archive/logic/Ziehungsschreiber.h"
 
 #include "archive/logic/Ziehungsdatei.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "archive/logic/clsDownload.h"
 #include "archive/tests/Probeinternet.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>

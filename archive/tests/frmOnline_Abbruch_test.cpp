@@ -1,6 +1,6 @@
 // The whole program, killed in the middle of online updates: the Ziehungsdatei is always there, old or new.
 
-#include "archive/tests/Kindprozess.h"
+#include "testhilfen/Kindprozess.h"
 #include "archive/tests/Onlinetest.h"
 
 #include <fcntl.h>

@@ -1,10 +1,10 @@
-#include "tools/drive/Buehnentest.h"
+#include "archive/tests/Archivbildschirmtest.h"
 
 #include <QFile>
 
 namespace {
 
-class Strukturbildschirm : public Buehnentest {
+class Strukturbildschirm : public Archivbildschirmtest {
 protected:
     QStringList zeilen(const char* liste) { return bedienung.zeilen(liste, 0, 100).zeilen; }
 };

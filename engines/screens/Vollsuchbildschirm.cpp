@@ -5,10 +5,10 @@
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
-#include "shell/elements/Spielartenwahl.h"
+#include "archive/screens/Spielartenwahl.h"
 #include "shell/elements/Textanzeige.h"
 #include "shell/elements/Utf8.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 
 #include <QGroupBox>
 #include <QLabel>

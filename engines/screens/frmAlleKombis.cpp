@@ -5,7 +5,7 @@
 #include "engines/screens/Trefferdetails.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Liste.h"
-#include "shell/elements/Spielartenwahl.h"
+#include "archive/screens/Spielartenwahl.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"

@@ -4,7 +4,7 @@
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

@@ -7,7 +7,7 @@
 #include "shell/elements/Stil.h"
 #include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 
 #include <QGroupBox>
 #include <QLabel>

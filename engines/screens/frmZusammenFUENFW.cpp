@@ -4,7 +4,7 @@
 #include "engines/logic/WiederholungBericht.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
-#include "shell/elements/Spielartenwahl.h"
+#include "archive/screens/Spielartenwahl.h"
 #include "shell/logic/clsTimer.h"
 
 #include <QGroupBox>

@@ -1,5 +1,5 @@
 #include "engines/logic/Positionsliste.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -71,7 +71,7 @@ TEST(Positionsbereich, PrueftInDerReihenfolge)
 
 TEST(Positionsliste, EineZeile)
 {
-    const ZiehungsArchiv archiv = testArchiv(1, {{1955, 41, {5, 10, 20, 30, 40, 49}, 0},
+    const ZiehungsArchiv archiv = archivAus(1, {{1955, 41, {5, 10, 20, 30, 40, 49}, 0},
                                                  {2024, 7, {1, 2, 3, 4, 5, 6}, 0},
                                                  {2024, 52, {44, 45, 46, 47, 48, 49}, 0}});
     EXPECT_EQ(positionszeile(archiv, 1), "  6.324.251  ->  1955/41  05 10 20 30 40 49");
@@ -96,7 +96,7 @@ ZiehungsArchiv mitPositionen(const std::vector<Positionszahl>& positionen)
     std::vector<TestZiehung> ziehungen;
     for (const Positionszahl position : positionen)
         ziehungen.push_back({2000, 1, *KombinationZaehlen(position), 0});
-    return testArchiv(1, ziehungen);
+    return archivAus(1, ziehungen);
 }
 
 TEST(Positionsliste, AlleInDerReihenfolgeDerZiehungen)
@@ -140,7 +140,7 @@ TEST(Positionsliste, LeeresArchivUndLauterGleiche)
 
 TEST(Positionsliste, UnsinnigeWerte)
 {
-    const ZiehungsArchiv archiv = testArchiv(1, {{kMin, kMax, {kMin, kMax, 0, -1, 50, 49}, 0},
+    const ZiehungsArchiv archiv = archivAus(1, {{kMin, kMax, {kMin, kMax, 0, -1, 50, 49}, 0},
                                                  {2000, 1, {6, 5, 4, 3, 2, 1}, 0},
                                                  {2000, 1, {1, 2, 3, 4, 5, 5}, 0}});
     const auto liste = positionsliste(archiv, {});
@@ -150,7 +150,7 @@ TEST(Positionsliste, UnsinnigeWerte)
     EXPECT_EQ(liste.zeilen[2], "             ->  2000/01  01 02 03 04 05 05");
     for (const std::string& zeile : liste.zeilen)
         zahlenInZeile(zeile);
-    EXPECT_TRUE(positionsliste(testArchiv(1, {{2000, 1, {0, 0, 0, 0, 0, 0}, 0}}), Positionsbereich{}).zeilen.empty());
+    EXPECT_TRUE(positionsliste(archivAus(1, {{2000, 1, {0, 0, 0, 0, 0, 0}, 0}}), Positionsbereich{}).zeilen.empty());
 }
 
 TEST(Positionsliste, EinVollesArchivUndEinAbbruch)

@@ -1,5 +1,5 @@
 #include "engines/logic/Positionsliste.h"
-#include "statistics/tests/EchteDaten.h"
+#include "testhilfen/EchteDaten.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "engines/logic/KombinationAusNummer.h"
 #include "engines/logic/Trefferreferenz.h"
 #include "engines/logic/Treffersuche.h"
-#include "statistics/tests/EchteDaten.h"
+#include "testhilfen/EchteDaten.h"
 
 #include <algorithm>
 

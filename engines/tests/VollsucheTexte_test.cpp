@@ -1,6 +1,6 @@
 #include "engines/logic/Vollsuche.h"
 #include "engines/logic/VollsucheTexte.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -108,18 +108,18 @@ TEST(VollsucheTexte, DerTitelNenntSpielUndZiehungen)
 {
     const TestZiehung erste{1986, 23, {1, 2, 3, 4, 5, 6}};
     const TestZiehung letzte{2026, 30, {1, 2, 3, 4, 5, 6}};
-    EXPECT_EQ(suchtitel(testArchiv(Mittwochslotto, {erste, letzte}), "Mittwochslotto "),
+    EXPECT_EQ(suchtitel(archivAus(Mittwochslotto, {erste, letzte}), "Mittwochslotto "),
               "Suche nach Wiederholungen (brute force)   Mittwochslotto    2 Ziehungen von 1986/23 bis 2026/30");
-    EXPECT_EQ(suchtitel(testArchiv(Mittwochslotto, {letzte, erste, letzte, erste}), "Zwei "),
+    EXPECT_EQ(suchtitel(archivAus(Mittwochslotto, {letzte, erste, letzte, erste}), "Zwei "),
               "Suche nach Wiederholungen (brute force)   Zwei    4 Ziehungen von 1986/23 bis 2026/30");
-    EXPECT_EQ(suchtitel(testArchiv(Samstagslotto, {}), "Samstagslotto"),
+    EXPECT_EQ(suchtitel(archivAus(Samstagslotto, {}), "Samstagslotto"),
               "Suche nach Wiederholungen (brute force)   Samstagslotto");
-    EXPECT_EQ(suchtitel(testArchiv(Samstagslotto, {erste}), ""), "Suche nach Wiederholungen (brute force)");
+    EXPECT_EQ(suchtitel(archivAus(Samstagslotto, {erste}), ""), "Suche nach Wiederholungen (brute force)");
 }
 
 TEST(VollsucheTexte, BerichtetWiederholungenUndNieGezogene)
 {
-    ZiehungsArchiv archiv = testArchiv(Samstagslotto, {{1955, 41, {1, 2, 3, 4, 5, 6}}, {1955, 42, {1, 2, 3, 4, 5, 6}}});
+    ZiehungsArchiv archiv = archivAus(Samstagslotto, {{1955, 41, {1, 2, 3, 4, 5, 6}}, {1955, 42, {1, 2, 3, 4, 5, 6}}});
     const Suchquelle quelle = suchquelle(archiv, "Samstagslotto", {"", "So, 09.10.1955", "So, 16.10.1955"});
     const std::vector<std::string> zeilen{"   2 mal -> 01 02", "   2 mal -> 01 03"};
     EXPECT_EQ(wiederholungsbericht(quelle, 2, zeilen),
@@ -147,7 +147,7 @@ TEST(VollsucheTexte, BerichtetWiederholungenUndNieGezogene)
 
 TEST(VollsucheTexte, OhneZeilenGibtEsKeinenBericht)
 {
-    const Suchquelle quelle = suchquelle(testArchiv(Samstagslotto, {}), "Samstagslotto", {});
+    const Suchquelle quelle = suchquelle(archivAus(Samstagslotto, {}), "Samstagslotto", {});
     EXPECT_EQ(quelle.jahrUndWoche, "0000/00");
     EXPECT_EQ(wiederholungsbericht(quelle, 0, {}), "");
     EXPECT_EQ(nieGezogenBericht(quelle, {}), "");

@@ -1,5 +1,5 @@
 #include "engines/logic/Vollsuche.h"
-#include "statistics/tests/EchteDaten.h"
+#include "testhilfen/EchteDaten.h"
 
 #include <algorithm>
 #include <map>

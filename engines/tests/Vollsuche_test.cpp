@@ -1,6 +1,6 @@
 #include "engines/tests/VollsucheReferenz.h"
 #include "shell/logic/Binomial.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -15,7 +15,7 @@ ZiehungsArchiv archiv(const std::vector<Reihe>& reihen)
     std::vector<TestZiehung> ziehungen;
     for (const Reihe& reihe : reihen)
         ziehungen.push_back({2000, 1, reihe, 0});
-    return testArchiv(Samstagslotto, ziehungen);
+    return archivAus(Samstagslotto, ziehungen);
 }
 
 /// Draws by chance of the numbers up to `bis`, so that few numbers repeat often.

@@ -1,6 +1,6 @@
 #include "engines/logic/NieGezogeneDreier.h"
 #include "engines/logic/WiederholungBericht.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ using Zeilen = std::vector<std::string>;
 
 ZiehungsArchiv beispiel()
 {
-    return testArchiv(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}}, {2026, 9, {1, 2, 3, 4, 5, 6}}});
+    return archivAus(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}}, {2026, 9, {1, 2, 3, 4, 5, 6}}});
 }
 
 TEST(WiederholungBericht, NenntArtSpielUndStand)
@@ -79,7 +79,7 @@ TEST(NieGezogeneDreier, OhneZiehungAlle)
 
 TEST(NieGezogeneDreier, EineZiehungNimmtZwanzig)
 {
-    const ZiehungsArchiv archiv = testArchiv(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}}});
+    const ZiehungsArchiv archiv = archivAus(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}}});
     const Zeilen zeilen = nieGezogeneDreier(archiv);
     EXPECT_EQ(zeilen.size(), 18424U - 20U);
     EXPECT_EQ(std::ranges::count(zeilen, "   03 12 13"), 0);
@@ -88,7 +88,7 @@ TEST(NieGezogeneDreier, EineZiehungNimmtZwanzig)
 
 TEST(NieGezogeneDreier, EineZahlZaehltWoSieSteht)
 {
-    const ZiehungsArchiv archiv = testArchiv(
+    const ZiehungsArchiv archiv = archivAus(
         Samstagslotto,
         {{1955, 41, {41, 3, 3, 50, -7, 12}}, {1955, 42, {0, 0, 0, 0, 0, 0}}, {1955, 43, {1, 1, 1, 2, 2, 2}}});
     const Zeilen zeilen = nieGezogeneDreier(archiv);
@@ -102,7 +102,7 @@ TEST(NieGezogeneDreier, GibtDasselbeWieDieProbeJederZiehung)
     for (std::int32_t i = 0; i < 300; ++i)
         ziehungen.push_back(
             {2000, 1, {1 + i % 49, 1 + i * 7 % 49, 1 + i * 11 % 49, 1 + i * i % 49, 49 - i % 40, i % 60}});
-    const ZiehungsArchiv archiv = testArchiv(Samstagslotto, ziehungen);
+    const ZiehungsArchiv archiv = archivAus(Samstagslotto, ziehungen);
     std::set<std::array<std::int32_t, 3>> gezogen;
     for (const TestZiehung& ziehung : ziehungen) {
         for (const std::int32_t a : ziehung.zahlen)

@@ -1,6 +1,6 @@
 #include "archive/logic/Ziehungskalender.h"
 #include "engines/logic/WiederholungDetails.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -9,15 +9,16 @@
 
 namespace {
 
-using Reihe = std::array<std::int32_t, 6>;
+using Reihe = Zahlenreihe;
 using Zeilen = std::vector<std::string>;
 
-ZiehungsArchiv archivAus(const std::vector<Reihe>& reihen)
+/// Draws with dates, in a combined archive too.
+ZiehungsArchiv datierte(const std::vector<Reihe>& reihen)
 {
     std::vector<TestZiehung> ziehungen;
     for (std::size_t i = 0; i < reihen.size(); ++i)
         ziehungen.push_back({1955, 41 + static_cast<std::int32_t>(i % 10), reihen[i]});
-    ZiehungsArchiv archiv = testArchiv(Samstagslotto, ziehungen);
+    ZiehungsArchiv archiv = archivAus(Samstagslotto, ziehungen);
     BaueSamstagsDaten(archiv);
     archiv.DatumAlle = archiv.Datum;
     for (std::string& datum : archiv.DatumAlle)
@@ -56,7 +57,7 @@ Zeilen bloecke(const ZiehungsArchiv& archiv, int k, const Wiederholungsart& art,
 
 TEST(WiederholungDetails, EineZiehungAlsZeile)
 {
-    const ZiehungsArchiv archiv = archivAus({{3, 12, 13, 16, 23, 41}});
+    const ZiehungsArchiv archiv = datierte({{3, 12, 13, 16, 23, 41}});
     EXPECT_EQ(detailzeile(archiv, 1, kEineSpielart), "1955/41  03 12 13 16 23 41   So, 09.10.1955");
     EXPECT_EQ(detailzeile(archiv, 1, kAlleSpielarten), "1955/41  03 12 13 16 23 41   So, 09.10.1955 (B)");
 }
@@ -64,7 +65,7 @@ TEST(WiederholungDetails, EineZiehungAlsZeile)
 TEST(WiederholungDetails, EinBlockJeZeile)
 {
     const ZiehungsArchiv archiv =
-        archivAus({{7, 19, 30, 31, 32, 33}, {1, 2, 3, 4, 5, 6}, {7, 18, 19, 47, 48, 49}, {6, 7, 8, 9, 10, 11}});
+        datierte({{7, 19, 30, 31, 32, 33}, {1, 2, 3, 4, 5, 6}, {7, 18, 19, 47, 48, 49}, {6, 7, 8, 9, 10, 11}});
     const Zeilen soll{
         "Kombination:  7 19",
         "-------------------------------------------",
@@ -85,7 +86,7 @@ TEST(WiederholungDetails, EinBlockJeZeile)
 
 TEST(WiederholungDetails, DieSechsHabenEigeneSpalten)
 {
-    const ZiehungsArchiv archiv = archivAus({{15, 25, 27, 30, 42, 48}, {1, 2, 3, 4, 5, 6}, {15, 25, 27, 30, 42, 48}});
+    const ZiehungsArchiv archiv = datierte({{15, 25, 27, 30, 42, 48}, {1, 2, 3, 4, 5, 6}, {15, 25, 27, 30, 42, 48}});
     const Zeilen zeilen = alle(wiederholungDetails(archiv, 6, kEineSpielart, Zeilen{" 2 mal-> 15 25 27 30 42 48"}));
     ASSERT_EQ(zeilen.size(), 5U);
     EXPECT_EQ(zeilen[0], "Kombination: 15 25 27 30 42 48");
@@ -101,7 +102,7 @@ TEST(WiederholungDetails, FindetDieselbenZiehungenWieDieProbeJederEinzelnen)
         std::ranges::generate(reihe, [&] { return zahl(zufall); });
         std::ranges::sort(reihe);
     }
-    const ZiehungsArchiv archiv = archivAus(reihen);
+    const ZiehungsArchiv archiv = datierte(reihen);
     for (int k = 2; k <= 6; ++k) {
         Zeilen ergebniszeilen;
         for (const Wiederholung& wiederholung : WiederholungsSuche(archiv, k).mehrfache)
@@ -116,7 +117,7 @@ TEST(WiederholungDetails, UnsinnigeZahlenWerdenInDenSpaltenGesucht)
 {
     constexpr auto kMax = std::numeric_limits<std::int32_t>::max();
     const ZiehungsArchiv archiv =
-        archivAus({{-5, 0, 7, 120, 50, kMax}, {7, 7, 0, 0, 120, -5}, {1, 2, 3, 4, 5, 6}, {kMax, 120, 50, 7, 0, -5}});
+        datierte({{-5, 0, 7, 120, 50, kMax}, {7, 7, 0, 0, 120, -5}, {1, 2, 3, 4, 5, 6}, {kMax, 120, 50, 7, 0, -5}});
     const Zeilen ergebniszeilen{" 2 mal ->   7120",  "  2 mal -> 120  7",       "  2 mal ->  -5  0",
                                 "  2 mal ->  50 50", " 2 mal -> -502147483647", "1000 mal ->   7 19",
                                 "  2 mal ->   0  7"};
@@ -136,14 +137,14 @@ TEST(WiederholungDetails, LeeresArchivGibtLeereBloecke)
 TEST(WiederholungDetails, GrenzenDerWorte)
 {
     for (const std::size_t anzahl : {63U, 64U, 65U, 127U, 128U}) {
-        const ZiehungsArchiv archiv = archivAus(std::vector<Reihe>(anzahl, {1, 2, 3, 4, 5, 6}));
+        const ZiehungsArchiv archiv = datierte(std::vector<Reihe>(anzahl, {1, 2, 3, 4, 5, 6}));
         EXPECT_EQ(wiederholungDetails(archiv, 2, kEineSpielart, Zeilen{" 2 mal ->   1  6"}).anzahl(), anzahl + 3);
     }
 }
 
 TEST(WiederholungDetails, HaeltAn)
 {
-    const ZiehungsArchiv archiv = archivAus(std::vector<Reihe>(32767, {1, 2, 3, 4, 5, 6}));
+    const ZiehungsArchiv archiv = datierte(std::vector<Reihe>(32767, {1, 2, 3, 4, 5, 6}));
     const Zeilen ergebniszeilen(1000, " 2 mal ->   1  6");
     const Detailzeilen teil =
         wiederholungDetails(archiv, 2, kEineSpielart, ergebniszeilen, [](std::uint64_t) { return false; });

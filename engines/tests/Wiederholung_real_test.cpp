@@ -1,7 +1,7 @@
 #include "engines/logic/NieGezogeneDreier.h"
 #include "engines/logic/WiederholungDetails.h"
 #include "shell/logic/Binomial.h"
-#include "statistics/tests/EchteDaten.h"
+#include "testhilfen/EchteDaten.h"
 
 #include <algorithm>
 #include <map>

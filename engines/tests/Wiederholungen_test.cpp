@@ -1,6 +1,6 @@
 #include "engines/logic/Wiederholungen.h"
 #include "engines/tests/WiederholungenReferenz.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <chrono>
@@ -10,15 +10,7 @@
 
 namespace {
 
-using Reihe = std::array<std::int32_t, 6>;
-
-ZiehungsArchiv archivAus(const std::vector<Reihe>& reihen)
-{
-    std::vector<TestZiehung> ziehungen;
-    for (const Reihe& reihe : reihen)
-        ziehungen.push_back({2000, 1, reihe});
-    return testArchiv(Samstagslotto, ziehungen);
-}
+using Reihe = Zahlenreihe;
 
 /// Rows of a small range, so that many of their sets come twice; sorted or as they fell.
 std::vector<Reihe> zufaellige(std::size_t anzahl, std::int32_t von, std::int32_t bis, bool geordnet)

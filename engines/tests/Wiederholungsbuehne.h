@@ -2,7 +2,7 @@
 
 #include "engines/screens/WiederholungsBildschirm.h"
 #include "engines/tests/WiederholungenReferenz.h"
-#include "tools/drive/Buehnentest.h"
+#include "engines/tests/Suchtest.h"
 
 #include <QCoreApplication>
 
@@ -25,7 +25,7 @@ inline constexpr std::array<Wiederholungsfeld, 5> kWiederholungsfelder{{
 }};
 
 /// The stage of both screens of the repetition search.
-class Wiederholungsbuehne : public Buehnentest {
+class Wiederholungsbuehne : public Suchtest {
 protected:
     QStringList zeilen(const QString& liste) { return bedienung.zeilen(liste, 0, 10'000'000).zeilen; }
     QString gewaehlt(const QString& liste) { return bedienung.gewaehlte(liste).zeilen.join(','); }

@@ -6,7 +6,7 @@
 #include "shell/elements/Liste.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Zahlen.h"
-#include "tools/drive/Buehnentest.h"
+#include "engines/tests/Suchtest.h"
 
 #include <QCoreApplication>
 #include <QScrollBar>
@@ -20,7 +20,7 @@ constexpr auto kAnzahlFalsch =
 constexpr auto kZahlFalsch =
     "info|Tombrix|Falsche Zahleneingabe. Die einzelnen Zahlen müssen grösser 1 und kleiner 49 sein.";
 
-class AlleKombisBildschirm : public Buehnentest {
+class AlleKombisBildschirm : public Suchtest {
 protected:
     void oeffneSchirm()
     {

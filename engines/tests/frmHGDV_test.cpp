@@ -1,6 +1,6 @@
 #include "engines/screens/frmHGDV.h"
 #include "engines/tests/VollsucheReferenz.h"
-#include "tools/drive/Buehnentest.h"
+#include "engines/tests/Suchtest.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -9,7 +9,7 @@
 
 namespace {
 
-class Vollsuchtest : public Buehnentest {
+class Vollsuchtest : public Suchtest {
 protected:
     void oeffneMit(const std::vector<std::string>& saetze)
     {

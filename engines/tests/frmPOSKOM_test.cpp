@@ -1,6 +1,6 @@
 #include "engines/screens/frmPOSKOM.h"
 #include "shell/elements/Liste.h"
-#include "tools/drive/Buehnentest.h"
+#include "engines/tests/Suchtest.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -15,7 +15,7 @@ namespace {
 const std::vector<std::string> kVier{"1955,41,05,10,20,30,40,49,00,0", "1955,42,01,02,03,04,05,06,00,0",
                                      "1955,43,44,45,46,47,48,49,00,0", "1955,44,01,02,06,18,19,24,00,0"};
 
-class Positionslistenschirm : public Buehnentest {
+class Positionslistenschirm : public Suchtest {
 protected:
     void beginne(const std::vector<std::string>& ziehungen = kVier)
     {

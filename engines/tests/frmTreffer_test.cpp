@@ -1,5 +1,5 @@
 #include "engines/screens/frmTreffer.h"
-#include "tools/drive/Buehnentest.h"
+#include "engines/tests/Suchtest.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -7,7 +7,7 @@
 
 namespace {
 
-class Trefferbildschirm : public Buehnentest {
+class Trefferbildschirm : public Suchtest {
 protected:
     void oeffneTreffer()
     {

@@ -1,12 +1,12 @@
 #include "engines/screens/frmZusammenHGDV.h"
 #include "engines/tests/VollsucheReferenz.h"
-#include "tools/drive/Buehnentest.h"
+#include "engines/tests/Suchtest.h"
 
 #include <functional>
 
 namespace {
 
-class VollsuchtestZusammen : public Buehnentest {
+class VollsuchtestZusammen : public Suchtest {
 protected:
     VollsuchtestZusammen()
     {
@@ -18,7 +18,6 @@ protected:
     void oeffneZusammen()
     {
         starte();
-        klicke("Option4");
         oeffne("frmZusammenHGDV");
     }
 

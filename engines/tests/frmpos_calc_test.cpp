@@ -1,11 +1,11 @@
 #include "shell/elements/Bildschirm.h"
-#include "tools/drive/Buehnentest.h"
+#include "engines/tests/Suchtest.h"
 
 namespace {
 
 constexpr auto kFehler = " Fehler: Die Positionszahl muss >=1 und <=13.983.816 sein.";
 
-class Positionsrechner : public Buehnentest {
+class Positionsrechner : public Suchtest {
 protected:
     void SetUp() override
     {

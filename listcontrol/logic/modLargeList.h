@@ -1,7 +1,7 @@
 #pragma once
 
 #include "listcontrol/logic/ListenFehler.h"
-#include "listcontrol/logic/ListenModell.h"
+#include "shell/logic/ListenModell.h"
 
 #include <cstdint>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "listcontrol/screens/ListView.h"
 #include "listcontrol/screens/Listenkopf.h"
-#include "tools/drive/Eingabe.h"
+#include "tools/buehne/Eingabe.h"
 
 #include <QApplication>
 #include <QEventLoop>

@@ -1,4 +1,4 @@
-#include "reports/logic/HtmlSeite.h"
+#include "reports/frame/HtmlSeite.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,4 +1,4 @@
-#include "reports/logic/HtmlStil.h"
+#include "reports/frame/HtmlStil.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "reports/logic/HtmlText.h"
+#include "reports/frame/HtmlText.h"
 
 #include <gtest/gtest.h>
 #include <string>

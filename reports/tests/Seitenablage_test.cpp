@@ -1,6 +1,6 @@
-#include "reports/logic/Seitenablage.h"
-#include "reports/tests/Schreibhindernisse.h"
-#include "shell/tests/Pruefordner.h"
+#include "reports/frame/Seitenablage.h"
+#include "testhilfen/Schreibhindernisse.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

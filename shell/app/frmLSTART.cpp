@@ -1,5 +1,7 @@
 #include "shell/app/frmLSTART.h"
 
+#include "archive/logic/ZiehungsArchiv.h"
+#include "archive/screens/Spielartlader.h"
 #include "shell/app/Knopfwand.h"
 #include "shell/app/Rollo.h"
 #include "shell/elements/BildschirmVerzeichnis.h"

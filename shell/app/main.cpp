@@ -1,12 +1,16 @@
+#include "archive/logic/ZiehungsArchiv.h"
 #include "shell/app/Dienste.h"
-#include "shell/app/Programm.h"
-#include "shell/app/Registrierung.h"
+#include "shell/app/Programmstart.h"
 #include "shell/app/Verzeichniswahl.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
+#include "shell/elements/Programm.h"
+
+#include <QIcon>
 
 int main(int anzahl, char** argumente)
 {
     Programm programm(anzahl, argumente);
+    QApplication::setWindowIcon(QIcon(":/bilder/tombrix.svg"));
 
     ZiehungsArchiv archiv;
     archiv.ProgrammVerzeichnis = waehleProgrammVerzeichnis(QCoreApplication::applicationDirPath()).toStdString();
@@ -22,7 +26,6 @@ int main(int anzahl, char** argumente)
     BildschirmVerzeichnis bildschirme(umgebung);
     registriereBildschirme(bildschirme);
 
-    ladeSpielart(umgebung, SpielartStart);
-    bildschirme.oeffne("frmLSTART");
+    starteProgramm(umgebung);
     return QCoreApplication::exec();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "listcontrol/logic/ListenModell.h"
+#include "shell/logic/ListenModell.h"
 #include "shell/elements/Bloecke.h"
 #include "shell/elements/Umgebung.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "listcontrol/logic/ListenModell.h"
+#include "shell/logic/ListenModell.h"
 #include "shell/elements/Zeilenansicht.h"
 
 /// The list box: fixed pitch text rows, stored and sorted by their own text, or made on demand. Screens fill the

@@ -1,17 +1,18 @@
 #pragma once
 
-#include "archive/logic/ZiehungsArchiv.h"
 #include "shell/logic/Uhr.h"
 #include "shell/logic/Zufall.h"
 
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 
 class BildschirmVerzeichnis;
 class QPainter;
 class QPagedPaintDevice;
+struct ZiehungsArchiv;
 
 /// What a file dialog is asked. `filter` is in Qt's form, "Text (*.txt);;Alle (*.*)".
 struct DateiFrage {
@@ -104,10 +105,3 @@ struct Umgebung {
 inline constexpr auto kProgrammtitel = "Tombrix";
 /// The title of the box with a tool's explanation.
 inline constexpr auto kInfotitel = "Lotto-Info";
-
-/// Loads the files of `maske` (1 Samstag, 2 Mittwoch, 4 Mittwoch (B)) one after the other; a missing one is told in a
-/// box. Gives what stands in each, see `LadeAlleZiehungen`.
-std::string ladeSpielarten(Umgebung& umgebung, int maske);
-
-/// Loads the Ziehungsdatei of `spielart` into the archive; a missing file is told in a box until it is there.
-void ladeSpielart(Umgebung& umgebung, std::int16_t spielart);

@@ -1,5 +1,5 @@
 #include "shell/logic/Dateien.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <cerrno>
 #include <csignal>

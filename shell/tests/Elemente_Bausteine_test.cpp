@@ -4,7 +4,7 @@
 #include "shell/elements/Rahmen.h"
 #include "shell/elements/ZZModusOptionen.h"
 #include "shell/elements/Zahlenblock.h"
-#include "tools/drive/Buehnentest.h"
+#include "testhilfen/Buehnentest.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,8 +1,9 @@
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
-#include "tools/drive/Buehnentest.h"
-#include "tools/drive/Eingabe.h"
+#include "testhilfen/Buehnentest.h"
+#include "testhilfen/Menueersatz.h"
+#include "tools/buehne/Eingabe.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -105,13 +106,15 @@ protected:
     {
         buehne.bildschirme.registriere(
             "frmWerkbank", [gemeinsam = protokoll_](Umgebung& u) { return std::make_unique<Werkbank>(u, gemeinsam); });
+        buehne.bildschirme.registriere("frmLSTART", [](Umgebung& u) {
+            return std::make_unique<Menueersatz>(u, [](std::int16_t) {});
+        });
     }
 
     Bildschirm& zeige()
     {
-        starte();
+        buehne.bildschirme.oeffne("frmLSTART");
         oeffne("frmWerkbank");
-        buehne.bildschirme.geladen("frmLSTART")->hide();
         return *buehne.bildschirme.geladen("frmWerkbank");
     }
 

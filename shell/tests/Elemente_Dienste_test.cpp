@@ -4,7 +4,7 @@
 #include "shell/elements/SpezialOrdner.h"
 #include "shell/elements/TextRand.h"
 #include "shell/elements/Zeilendruck.h"
-#include "tools/drive/Buehnentest.h"
+#include "testhilfen/Buehnentest.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -2,8 +2,8 @@
 #include "shell/elements/Liste.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"
-#include "tools/drive/Buehnentest.h"
-#include "tools/drive/Eingabe.h"
+#include "testhilfen/Buehnentest.h"
+#include "tools/buehne/Eingabe.h"
 
 #include <QApplication>
 #include <QImage>

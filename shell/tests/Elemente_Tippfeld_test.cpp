@@ -1,7 +1,7 @@
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Tippfeld7x7View.h"
-#include "tools/drive/Buehnentest.h"
-#include "tools/drive/Eingabe.h"
+#include "testhilfen/Buehnentest.h"
+#include "tools/buehne/Eingabe.h"
 
 #include <QApplication>
 #include <QImage>

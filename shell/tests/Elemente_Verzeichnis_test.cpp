@@ -1,6 +1,6 @@
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
-#include "tools/drive/Buehnentest.h"
+#include "testhilfen/Buehnentest.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -40,6 +40,7 @@ public:
     /// Loaded or closed in closing.
     QString laedtBeimSchliessen;
     QString schliesstBeimSchliessen;
+    bool entlaedtAlleBeimSchliessen = false;
 
 protected:
     void beimSchliessen() override
@@ -50,6 +51,8 @@ protected:
         Bildschirm* anderer = umgebung().bildschirme->geladen(schliesstBeimSchliessen);
         if (anderer)
             anderer->schliesse();
+        if (std::exchange(entlaedtAlleBeimSchliessen, false))
+            umgebung().bildschirme->entladeAlle();
     }
 
 private:
@@ -183,24 +186,15 @@ TEST_F(ElementVerzeichnis, WerAndereMitSichSchliesstSchliesstSieEinmal)
     EXPECT_EQ(buch["frmÄlter"].geschlossen, 1);
 }
 
-TEST_F(ElementVerzeichnis, DasEndeDesMenuesSchliesstJedesWerkzeugEinmal)
+TEST_F(ElementVerzeichnis, EntladenSchliesstJedenEinmalAuchWennEinerAlleEntlaedt)
 {
-    starte();
-    verzeichnis.oeffne("frmAlt");
+    blatt("frmAlt").entlaedtAlleBeimSchliessen = true;
+    verzeichnis.oeffne("frmÄlter");
     verzeichnis.lade("frmNeu");
-    verzeichnis.geladen("frmLSTART")->schliesse();
-    EXPECT_THAT(verzeichnis.geladene(), IsEmpty());
-    EXPECT_EQ(buch["frmAlt"].geschlossen, 1);
-    EXPECT_EQ(buch["frmNeu"].geschlossen, 1);
-}
-
-TEST_F(ElementVerzeichnis, AlleZuEntladenSchliesstJedesWerkzeugEinmalAuchMitMenue)
-{
-    starte();
-    verzeichnis.oeffne("frmAlt");
     verzeichnis.entladeAlle();
     EXPECT_THAT(verzeichnis.geladene(), IsEmpty());
-    EXPECT_EQ(buch["frmAlt"].geschlossen, 1);
+    for (const char* name : {"frmAlt", "frmÄlter", "frmNeu"})
+        EXPECT_EQ(buch[name].geschlossen, 1) << name;
 }
 
 } // namespace

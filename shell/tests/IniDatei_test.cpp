@@ -1,5 +1,5 @@
 #include "shell/logic/IniDatei.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "shell/app/Menuetafel.h"
 #include "shell/elements/Bildschirm.h"
-#include "tools/drive/Buehnentest.h"
+#include "tools/drive/tests/Programmbuehne.h"
 
 #include <QImage>
 
@@ -14,9 +14,17 @@ public:
     explicit Werkzeug(Umgebung& umgebung, const QString& name) : Bildschirm(umgebung, name, name) {}
     void druckeStart() override { ++gestartet; }
     int gestartet = 0;
+    int* geschlossen = nullptr;
+
+protected:
+    void beimSchliessen() override
+    {
+        if (geschlossen)
+            ++*geschlossen;
+    }
 };
 
-class Auswahlmenue : public Buehnentest {
+class Auswahlmenue : public Programmbuehne {
 protected:
     void registriere(const QString& name)
     {
@@ -333,8 +341,11 @@ TEST_F(Auswahlmenue, SchliessenEntlaedtAlleBildschirme)
     registriere("frmExcel");
     starte();
     klicke("Command10");
+    int geschlossen = 0;
+    buehne.bildschirme.lade<Werkzeug>("frmExcel").geschlossen = &geschlossen;
     klicke("Befehl13");
     EXPECT_TRUE(buehne.bildschirme.geladene().empty());
+    EXPECT_EQ(geschlossen, 1);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "shell/logic/ClipReport.h"
 #include "shell/logic/Format.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Texte.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
 #include "shell/elements/ZZModusOptionen.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Zahlen.h"
 #include "statistics/logic/AbstandListe.h"
 

@@ -7,7 +7,7 @@
 #include "shell/elements/Utf8.h"
 #include "shell/elements/ZZModusOptionen.h"
 #include "shell/logic/ClipReport.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 #include "statistics/logic/JahrUndWocheZeilen.h"
 
 #include <QGroupBox>

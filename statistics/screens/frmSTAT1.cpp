@@ -8,7 +8,7 @@
 #include "shell/elements/Utf8.h"
 #include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 #include "statistics/screens/frmGraph.h"
 
 #include <QGroupBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/elements/AuswertebereichView.h"
+#include "archive/screens/AuswertebereichView.h"
 #include "shell/elements/Bildschirm.h"
 #include "statistics/logic/HaeufigkeitAuswertung.h"
 

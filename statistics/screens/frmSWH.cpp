@@ -5,7 +5,7 @@
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/ZZModus.h"
 #include "statistics/logic/Spielwochen.h"
 

@@ -8,7 +8,7 @@
 #include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Format.h"
-#include "shell/logic/Spielarttexte.h"
+#include "archive/logic/Spielarttexte.h"
 
 #include <QComboBox>
 #include <QGroupBox>

@@ -1,6 +1,6 @@
 #include "archive/logic/Ziehungskalender.h"
 #include "statistics/logic/AbstandAuswertung.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -13,7 +13,7 @@ ZiehungsArchiv mitNeunundvierzig(std::size_t anzahl, const std::vector<std::size
     std::vector<TestZiehung> ziehungen(anzahl, TestZiehung{2000, 1, {1, 2, 3, 4, 5, 6}, zz});
     for (const std::size_t nr : nummern)
         ziehungen[nr - 1].zahlen[5] = 49;
-    ZiehungsArchiv archiv = testArchiv(Samstagslotto, ziehungen);
+    ZiehungsArchiv archiv = archivAus(Samstagslotto, ziehungen);
     BaueSamstagsDaten(archiv);
     return archiv;
 }

@@ -1,7 +1,7 @@
 #include "statistics/logic/AbstandAuswertung.h"
 #include "statistics/logic/AbstandMaximum.h"
 #include "statistics/tests/AbstandReferenz.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ ZiehungsArchiv zufaellig(std::mt19937& wuerfel, std::size_t anzahl, int zahlen)
         std::copy_n(alle.begin(), 6, ziehung.zahlen.begin());
         ziehungen.push_back(ziehung);
     }
-    return testArchiv(Samstagslotto, ziehungen);
+    return archivAus(Samstagslotto, ziehungen);
 }
 
 TEST(AbstandMaximum, GibtDasselbeWieDerEinfacheDurchlauf)
@@ -47,7 +47,7 @@ TEST(AbstandMaximum, ZaehltDenErstenTrefferVonVorDerErstenZiehungAn)
 {
     std::vector<TestZiehung> ziehungen(9, TestZiehung{2000, 7, {1, 2, 3, 4, 5, 6}, 0});
     ziehungen[8].zahlen = {1, 2, 3, 4, 5, 49};
-    const ZiehungsArchiv archiv = testArchiv(Samstagslotto, ziehungen);
+    const ZiehungsArchiv archiv = archivAus(Samstagslotto, ziehungen);
     EXPECT_EQ(laengsterAbstand(archiv, ZZModus::Ohne), (LaengsterAbstand{49, 9, 2000, 7, 9}));
     EXPECT_EQ(werteAbstandAus(archiv, 49, ZZModus::Ohne).treffer[0].wochen, 8);
 }
@@ -58,7 +58,7 @@ TEST(AbstandMaximum, VonGleichenGiltDieNiedrigsteZahl)
     ziehungen[8].zahlen = {1, 2, 3, 4, 5, 49};
     ziehungen[9].zahlen = {1, 2, 3, 4, 5, 20};
     ziehungen[18].zahlen = {1, 2, 3, 4, 5, 49};
-    EXPECT_EQ(laengsterAbstand(testArchiv(Samstagslotto, ziehungen), ZZModus::Ohne),
+    EXPECT_EQ(laengsterAbstand(archivAus(Samstagslotto, ziehungen), ZZModus::Ohne),
               (LaengsterAbstand{20, 10, 2000, 1, 10}));
 }
 
@@ -67,27 +67,27 @@ TEST(AbstandMaximum, InnerhalbDerZahlGiltDieFruehesteZiehung)
     std::vector<TestZiehung> ziehungen(30, TestZiehung{2000, 1, {1, 2, 3, 4, 5, 6}, 0});
     for (const std::size_t nr : {10U, 20U, 30U})
         ziehungen[nr - 1].zahlen = {1, 2, 3, 4, 5, 20};
-    EXPECT_EQ(laengsterAbstand(testArchiv(Samstagslotto, ziehungen), ZZModus::Ohne),
+    EXPECT_EQ(laengsterAbstand(archivAus(Samstagslotto, ziehungen), ZZModus::Ohne),
               (LaengsterAbstand{20, 10, 2000, 1, 10}));
 }
 
 TEST(AbstandMaximum, OhneTrefferKeineZahl)
 {
     EXPECT_EQ(laengsterAbstand(ZiehungsArchiv(), ZZModus::Mit), LaengsterAbstand());
-    EXPECT_EQ(laengsterAbstand(testArchiv(Samstagslotto, {{2000, 1, {1, 2, 3, 4, 5, 6}, 0}}), ZZModus::Nur),
+    EXPECT_EQ(laengsterAbstand(archivAus(Samstagslotto, {{2000, 1, {1, 2, 3, 4, 5, 6}, 0}}), ZZModus::Nur),
               LaengsterAbstand());
 }
 
 TEST(AbstandMaximum, UebergehtZahlenAusserhalb)
 {
-    const auto archiv = testArchiv(Samstagslotto, {{2000, 1, {-5, 0, 50, 99, 2147483647, 3}, -7}});
+    const auto archiv = archivAus(Samstagslotto, {{2000, 1, {-5, 0, 50, 99, 2147483647, 3}, -7}});
     EXPECT_EQ(laengsterAbstand(archiv, ZZModus::Mit), (LaengsterAbstand{3, 1, 2000, 1, 1}));
 }
 
 TEST(AbstandMaximum, LoeschtDieErstenSechsunddreissigZusatzzahlen)
 {
     ZiehungsArchiv archiv =
-        testArchiv(Mittwochslotto, std::vector<TestZiehung>(40, TestZiehung{2000, 1, {1, 2, 3, 4, 5, 6}, 49}));
+        archivAus(Mittwochslotto, std::vector<TestZiehung>(40, TestZiehung{2000, 1, {1, 2, 3, 4, 5, 6}, 49}));
     loescheFrueheZusatzzahlen(archiv);
     for (std::size_t nr = 0; nr <= 40; ++nr)
         EXPECT_EQ(archiv.zz[nr], nr < 37 ? 0 : 49) << nr;
@@ -95,7 +95,7 @@ TEST(AbstandMaximum, LoeschtDieErstenSechsunddreissigZusatzzahlen)
 
 TEST(AbstandMaximum, LoeschtInEinemKuerzerenArchivAlle)
 {
-    ZiehungsArchiv archiv = testArchiv(Mittwochslotto, {{2000, 1, {1, 2, 3, 4, 5, 6}, 49}});
+    ZiehungsArchiv archiv = archivAus(Mittwochslotto, {{2000, 1, {1, 2, 3, 4, 5, 6}, 49}});
     loescheFrueheZusatzzahlen(archiv);
     EXPECT_EQ(archiv.zz, (std::vector<std::int32_t>{0, 0}));
     ZiehungsArchiv leer;

@@ -1,7 +1,7 @@
 #include "statistics/logic/AbstandAuswertung.h"
 #include "statistics/logic/AbstandMaximum.h"
 #include "statistics/tests/AbstandReferenz.h"
-#include "statistics/tests/EchteDaten.h"
+#include "testhilfen/EchteDaten.h"
 
 #include <algorithm>
 

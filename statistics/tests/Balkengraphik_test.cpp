@@ -1,5 +1,5 @@
 #include "statistics/logic/Balkengraphik.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -84,7 +84,7 @@ TEST(Balkengraphik, LinienTeilenDieSkalaInViertel)
 
 ZiehungsArchiv dreiJahre()
 {
-    return testArchiv(
+    return archivAus(
         Samstagslotto,
         {{1955, 41, {1, 2, 3, 4, 5, 6}, 0}, {1956, 1, {1, 2, 3, 4, 5, 6}, 0}, {1957, 1, {1, 2, 3, 4, 5, 6}, 0}});
 }

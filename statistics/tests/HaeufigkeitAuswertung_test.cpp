@@ -1,5 +1,5 @@
 #include "statistics/logic/HaeufigkeitAuswertung.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -39,7 +39,7 @@ std::string kopf(const HaeufigkeitAuswertung& auswertung, std::size_t zeile)
 
 TEST(HaeufigkeitAuswertung, WerteAusHaeltAllesFest)
 {
-    const ZiehungsArchiv archiv = testArchiv(Mittwochslotto, {{1986, 23, {1, 2, 3, 4, 5, 6}, 7}});
+    const ZiehungsArchiv archiv = archivAus(Mittwochslotto, {{1986, 23, {1, 2, 3, 4, 5, 6}, 7}});
     const Ziehungsbereich bereich{1986, 2026, 1};
     const HaeufigkeitAuswertung ergebnis = werteAus(archiv, bereich, kBisZiehung, ZZModus::Nur);
     EXPECT_EQ(ergebnis.haeufigkeit.fuer(7), 1);
@@ -52,9 +52,9 @@ TEST(HaeufigkeitAuswertung, WerteAusHaeltAllesFest)
 
 TEST(HaeufigkeitAuswertung, DerAndereMittwochKommtOhneZusatzzahlHinzu)
 {
-    const ZiehungsArchiv b = testArchiv(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 6}, 7}});
+    const ZiehungsArchiv b = archivAus(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 6}, 7}});
     const ZiehungsArchiv a =
-        testArchiv(Mittwochslotto, {{1986, 23, {1, 2, 3, 4, 5, 8}, 7}, {2026, 30, {1, 2, 3, 4, 5, 8}, 0}});
+        archivAus(Mittwochslotto, {{1986, 23, {1, 2, 3, 4, 5, 8}, 7}, {2026, 30, {1, 2, 3, 4, 5, 8}, 0}});
     Auswertebereich bereich{1986, 1986, 1};
     bereich.setzeBis("2026");
     HaeufigkeitAuswertung ergebnis = werteAus(b, *bereich.pruefe().bereich, bereich.angabe(), ZZModus::Ohne);

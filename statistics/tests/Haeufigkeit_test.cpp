@@ -1,5 +1,5 @@
 #include "statistics/logic/Haeufigkeit.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ const std::vector<TestZiehung>& fuenfZiehungen()
 
 ZiehungsArchiv fuenf()
 {
-    return testArchiv(Samstagslotto, fuenfZiehungen());
+    return archivAus(Samstagslotto, fuenfZiehungen());
 }
 
 /// The count as it would be done by hand: draw by draw, number by number.
@@ -140,7 +140,7 @@ TEST(Haeufigkeit, ZahlenAusserhalbZaehlenNicht)
     constexpr auto kKleinste = std::numeric_limits<std::int32_t>::min();
     constexpr auto kGroesste = std::numeric_limits<std::int32_t>::max();
     const ZiehungsArchiv archiv =
-        testArchiv(Samstagslotto, {{1955, 41, {kKleinste, -1, 0, 49, 50, kGroesste}, 51}, {1955, 42, {}, 1}});
+        archivAus(Samstagslotto, {{1955, 41, {kKleinste, -1, 0, 49, 50, kGroesste}, 51}, {1955, 42, {}, 1}});
     const Haeufigkeit haeufigkeit = zaehleHaeufigkeit(archiv, kAlles, ZZModus::Mit);
     EXPECT_EQ(summeAllerZahlen(haeufigkeit), 2);
     EXPECT_EQ(haeufigkeit.fuer(49), 1);
@@ -151,7 +151,7 @@ TEST(Haeufigkeit, ZahlenAusserhalbZaehlenNicht)
 TEST(Haeufigkeit, BleibtAnDerGrenzeVonSechzehnBitStehen)
 {
     const std::vector<TestZiehung> ziehungen(10000, TestZiehung{1955, 41, {7, 7, 7, 7, 7, 7}, 7});
-    EXPECT_EQ(zaehleHaeufigkeit(testArchiv(Samstagslotto, ziehungen), kAlles, ZZModus::Mit).fuer(7), 32767);
+    EXPECT_EQ(zaehleHaeufigkeit(archivAus(Samstagslotto, ziehungen), kAlles, ZZModus::Mit).fuer(7), 32767);
 }
 
 TEST(Haeufigkeit, UngeordneteJahreZaehlenWieVonHand)
@@ -166,7 +166,7 @@ TEST(Haeufigkeit, UngeordneteJahreZaehlenWieVonHand)
             z = zahl(zufall);
         ziehung.zz = zahl(zufall);
     }
-    const ZiehungsArchiv archiv = testArchiv(Samstagslotto, ziehungen);
+    const ZiehungsArchiv archiv = archivAus(Samstagslotto, ziehungen);
     for (const ZZModus modus : {ZZModus::Ohne, ZZModus::Mit, ZZModus::Nur}) {
         for (const Ziehungsbereich bereich : {Ziehungsbereich{1955, 1965}, Ziehungsbereich{1957, 1960},
                                               Ziehungsbereich{1960, 1960, 250}, Ziehungsbereich{1955, 1965, 1}}) {
@@ -181,10 +181,10 @@ TEST(Haeufigkeit, UngeordneteJahreZaehlenWieVonHand)
 
 TEST(Haeufigkeit, DasZweiteArchivKommtHinzu)
 {
-    const ZiehungsArchiv a = testArchiv(
+    const ZiehungsArchiv a = archivAus(
         Mittwochslotto,
         {{1986, 23, {1, 2, 3, 4, 5, 6}, 7}, {1986, 24, {1, 2, 3, 4, 5, 6}, 7}, {1987, 1, {1, 2, 3, 4, 5, 6}, 7}});
-    const ZiehungsArchiv b = testArchiv(MittwochslottoB, {{1986, 23, {1, 12, 13, 14, 15, 16}, 7}});
+    const ZiehungsArchiv b = archivAus(MittwochslottoB, {{1986, 23, {1, 12, 13, 14, 15, 16}, 7}});
     Haeufigkeit summe = zaehleHaeufigkeit(a, {1986, 1987}, ZZModus::Ohne);
     zaehleDazu(summe, b, {1986, 1987}, ZZModus::Ohne);
     EXPECT_EQ(summe.fuer(1), 4);
@@ -199,10 +199,10 @@ TEST(Haeufigkeit, DasZweiteArchivKommtHinzu)
 
 TEST(Haeufigkeit, DieZiehungsgrenzeGiltInJedemArchivFuerSich)
 {
-    const ZiehungsArchiv lang = testArchiv(
+    const ZiehungsArchiv lang = archivAus(
         Mittwochslotto,
         {{1986, 23, {1, 2, 3, 4, 5, 6}, 0}, {1986, 24, {1, 2, 3, 4, 5, 6}, 0}, {1986, 25, {1, 2, 3, 4, 5, 6}, 0}});
-    const ZiehungsArchiv kurz = testArchiv(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 7}, 0}});
+    const ZiehungsArchiv kurz = archivAus(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 7}, 0}});
     Haeufigkeit summe = zaehleHaeufigkeit(lang, {1986, 1986, 2}, ZZModus::Ohne);
     zaehleDazu(summe, kurz, {1986, 1986, 2}, ZZModus::Ohne);
     EXPECT_EQ(summe.AusgewerteteZiehungen, 3);
@@ -213,7 +213,7 @@ TEST(Haeufigkeit, EinZweitesArchivOhneZiehungImBereichAendertNichts)
 {
     const Haeufigkeit vorher = zaehleHaeufigkeit(fuenf(), kAlles, ZZModus::Ohne);
     Haeufigkeit summe = vorher;
-    zaehleDazu(summe, testArchiv(MittwochslottoB, {}), kAlles, ZZModus::Ohne);
+    zaehleDazu(summe, archivAus(MittwochslottoB, {}), kAlles, ZZModus::Ohne);
     EXPECT_EQ(summe, vorher);
 }
 

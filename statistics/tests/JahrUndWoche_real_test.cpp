@@ -1,7 +1,7 @@
 #include "statistics/logic/JahrUndWoche.h"
 #include "statistics/logic/Jahrestabelle.h"
 #include "statistics/logic/Wochenstatistik.h"
-#include "statistics/tests/EchteDaten.h"
+#include "testhilfen/EchteDaten.h"
 
 #include <map>
 

@@ -1,6 +1,6 @@
 #include "statistics/logic/JahrUndWoche.h"
 #include "statistics/logic/JahrUndWocheZeilen.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gmock/gmock.h>
 #include <numeric>
@@ -13,7 +13,7 @@ using testing::ElementsAre;
 /// Two years of three draws and one of one draw; the number 7 comes as Gewinnzahl, as Zusatzzahl and not at all.
 ZiehungsArchiv dreiJahre()
 {
-    return testArchiv(Samstagslotto, {{1955, 51, {1, 2, 3, 4, 5, 7}, 0},
+    return archivAus(Samstagslotto, {{1955, 51, {1, 2, 3, 4, 5, 7}, 0},
                                       {1955, 52, {7, 8, 9, 10, 11, 12}, 0},
                                       {1956, 1, {1, 2, 3, 4, 5, 6}, 7},
                                       {1956, 2, {7, 20, 30, 40, 41, 42}, 43},
@@ -43,25 +43,25 @@ TEST(CountPerYear, ZaehltJedeZiehungMitDerZahlInIhremSpieljahr)
 TEST(CountPerYear, BeginntMitDemErstenJahrDesSpiels)
 {
     const std::vector<TestZiehung> eine{{1990, 1, {1, 2, 3, 4, 5, 6}, 0}};
-    EXPECT_THAT(countPerYear(testArchiv(Samstagslotto, eine), 1, ZZModus::Ohne).jahre,
+    EXPECT_THAT(countPerYear(archivAus(Samstagslotto, eine), 1, ZZModus::Ohne).jahre,
                 ElementsAre(Jahresanzahl{1955, 0}, Jahresanzahl{1990, 1}));
-    EXPECT_THAT(countPerYear(testArchiv(SpielartStart, eine), 1, ZZModus::Ohne).jahre,
+    EXPECT_THAT(countPerYear(archivAus(SpielartStart, eine), 1, ZZModus::Ohne).jahre,
                 ElementsAre(Jahresanzahl{1955, 0}, Jahresanzahl{1990, 1}));
     for (const std::int16_t spielart : {Mittwochslotto, MittwochslottoB})
-        EXPECT_THAT(countPerYear(testArchiv(spielart, eine), 1, ZZModus::Ohne).jahre,
+        EXPECT_THAT(countPerYear(archivAus(spielart, eine), 1, ZZModus::Ohne).jahre,
                     ElementsAre(Jahresanzahl{1986, 0}, Jahresanzahl{1990, 1}));
 }
 
 TEST(CountPerYear, EineZiehung)
 {
-    const ZiehungsArchiv archiv = testArchiv(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}, 0}});
+    const ZiehungsArchiv archiv = archivAus(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}, 0}});
     EXPECT_THAT(countPerYear(archiv, 41, ZZModus::Ohne).jahre, ElementsAre(Jahresanzahl{1955, 1}));
     EXPECT_THAT(countPerYear(archiv, 40, ZZModus::Ohne).jahre, ElementsAre(Jahresanzahl{1955, 0}));
 }
 
 TEST(CountPerYear, LeeresArchivHatNurDasErsteJahr)
 {
-    const HaeufigkeitProJahr leer = countPerYear(testArchiv(Mittwochslotto, {}), 1, ZZModus::Mit);
+    const HaeufigkeitProJahr leer = countPerYear(archivAus(Mittwochslotto, {}), 1, ZZModus::Mit);
     EXPECT_THAT(leer.jahre, ElementsAre(Jahresanzahl{1986, 0}));
     EXPECT_EQ(leer.gesamt, 0);
 }
@@ -79,7 +79,7 @@ TEST(CountPerWeek, ZaehltNachSpielwoche)
 
 TEST(CountPerWeek, EineWocheAusserhalbWirdAusgelassen)
 {
-    const ZiehungsArchiv archiv = testArchiv(Samstagslotto, {{1955, 0, {1, 2, 3, 4, 5, 6}, 0},
+    const ZiehungsArchiv archiv = archivAus(Samstagslotto, {{1955, 0, {1, 2, 3, 4, 5, 6}, 0},
                                                              {1955, 54, {1, 2, 3, 4, 5, 6}, 0},
                                                              {1955, -1, {1, 2, 3, 4, 5, 6}, 0},
                                                              {1955, 2147483647, {1, 2, 3, 4, 5, 6}, 0}});

@@ -1,6 +1,6 @@
 #include "shell/logic/Texte.h"
 #include "statistics/logic/Jahrestabelle.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -13,7 +13,7 @@ using testing::HasSubstr;
 /// The last draw of 2010 falls into 2011, the first one of 2015 into 2014.
 ZiehungsArchiv jahreswechsel()
 {
-    ZiehungsArchiv archiv = testArchiv(Samstagslotto, {{2010, 51, {1, 2, 3, 4, 5, 6}, 7},
+    ZiehungsArchiv archiv = archivAus(Samstagslotto, {{2010, 51, {1, 2, 3, 4, 5, 6}, 7},
                                                        {2010, 52, {1, 2, 3, 4, 5, 49}, 8},
                                                        {2011, 1, {1, 11, 12, 13, 14, 15}, 49},
                                                        {2014, 52, {1, 2, 3, 4, 5, 6}, 0},
@@ -109,14 +109,14 @@ TEST(YearTable, RekordIstDerErsteUndKleinste)
     const Jahrestabelle nachDatum = yearTable(jahreswechsel(), ZZModus::Ohne, true);
     EXPECT_EQ(nachDatum.tabelle.rekord, (Tabellenrekord{2, 1, 2011}));
     const Jahrestabelle ohneZahl =
-        yearTable(testArchiv(Samstagslotto, {{2020, 1, {1, 2, 3, 4, 5, 6}, 0}}), ZZModus::Nur, false);
+        yearTable(archivAus(Samstagslotto, {{2020, 1, {1, 2, 3, 4, 5, 6}, 0}}), ZZModus::Nur, false);
     EXPECT_EQ(ohneZahl.tabelle.rekord, (Tabellenrekord{0, 1, 2020}));
 }
 
 TEST(YearTable, LeeresArchivHatKeineZeilen)
 {
     for (const bool nachDatum : {false, true}) {
-        const Jahrestabelle leer = yearTable(testArchiv(Samstagslotto, {}), ZZModus::Mit, nachDatum);
+        const Jahrestabelle leer = yearTable(archivAus(Samstagslotto, {}), ZZModus::Mit, nachDatum);
         EXPECT_TRUE(leer.tabelle.zeilen.empty());
         EXPECT_EQ(leer.tabelle.rekord, std::nullopt);
     }
@@ -126,7 +126,7 @@ TEST(YearTable, UnmoeglicheJahreSprengenDieTabelleNicht)
 {
     const auto zeilen = [](std::int32_t erstes, std::int32_t letztes) {
         const ZiehungsArchiv archiv =
-            testArchiv(Samstagslotto, {{erstes, 1, {1, 2, 3, 4, 5, 6}, 0}, {letztes, 1, {1, 2, 3, 4, 5, 6}, 0}});
+            archivAus(Samstagslotto, {{erstes, 1, {1, 2, 3, 4, 5, 6}, 0}, {letztes, 1, {1, 2, 3, 4, 5, 6}, 0}});
         return yearTable(archiv, ZZModus::Ohne, false).tabelle.zeilen.size();
     };
     EXPECT_EQ(zeilen(-2147483647, 2147483647), 10000U);
@@ -137,7 +137,7 @@ TEST(YearTable, UnmoeglicheJahreSprengenDieTabelleNicht)
 
 TEST(Datumsjahre, OhneDatumGiltDasSpieljahr)
 {
-    ZiehungsArchiv archiv = testArchiv(
+    ZiehungsArchiv archiv = archivAus(
         Samstagslotto, {{2010, 52, {1, 2, 3, 4, 5, 6}, 0}, {2012, 1, {1, 2, 3, 4, 5, 6}, 0}, {2013, 1, {}, 0}});
     archiv.Datum = {"", "Sa, 01.01.2011", ""};
     EXPECT_THAT(datumsjahre(archiv), testing::ElementsAre(0, 2011, 2012, 2013));
@@ -199,7 +199,7 @@ std::string kopfzeile()
 
 TEST(JahrestabellenSeite, IstDieGanzeSeite)
 {
-    const ZiehungsArchiv archiv = testArchiv(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 6}, 7},
+    const ZiehungsArchiv archiv = archivAus(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 6}, 7},
                                                                {1986, 24, {1, 2, 3, 4, 5, 7}, 49},
                                                                {1987, 1, {44, 45, 46, 47, 48, 49}, 0}});
     const std::string rot2 = "<td><font color=red>2</font></td>";
@@ -263,7 +263,7 @@ Mittwochslotto Ziehung (B) wurde nach der 48. Ziehung 2000 (29.11) eingestellt. 
 TEST(JahrestabellenSeite, NenntJedesSpielMitEinemLeerzeichenVorDemModus)
 {
     const auto seite = [](std::int16_t spielart, ZZModus modus) {
-        return jahrestabellenSeite(yearTable(testArchiv(spielart, {{1990, 1, {1, 2, 3, 4, 5, 6}, 0}}), modus, false));
+        return jahrestabellenSeite(yearTable(archivAus(spielart, {{1990, 1, {1, 2, 3, 4, 5, 6}, 0}}), modus, false));
     };
     EXPECT_THAT(seite(SpielartStart, ZZModus::Ohne), HasSubstr("(SAMSTAGSLOTTO ohne Zusatzzahl)</h3>"));
     EXPECT_THAT(seite(Mittwochslotto, ZZModus::Mit), HasSubstr("(MITTWOCHSLOTTO mit Zusatzzahl)</h3>"));
@@ -274,7 +274,7 @@ TEST(JahrestabellenSeite, NenntJedesSpielMitEinemLeerzeichenVorDemModus)
 
 TEST(JahrestabellenSeite, LeeresArchivHatNurDenKopfUndKeinenRekord)
 {
-    const std::string seite = jahrestabellenSeite(yearTable(testArchiv(Samstagslotto, {}), ZZModus::Ohne, true));
+    const std::string seite = jahrestabellenSeite(yearTable(archivAus(Samstagslotto, {}), ZZModus::Ohne, true));
     EXPECT_EQ(ZaehleVorkommen(seite, "<tr>"), 2);
     EXPECT_EQ(ZaehleVorkommen(seite, "<td>"), 0);
     EXPECT_THAT(seite, testing::Not(HasSubstr("In einem Jahr")));

@@ -1,5 +1,5 @@
 #include "statistics/logic/Wochenstatistik.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gmock/gmock.h>
 #include <string>
@@ -11,7 +11,7 @@ using testing::ElementsAre;
 
 ZiehungsArchiv vierZiehungen()
 {
-    ZiehungsArchiv archiv = testArchiv(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}, 0},
+    ZiehungsArchiv archiv = archivAus(Samstagslotto, {{1955, 41, {3, 12, 13, 16, 23, 41}, 0},
                                                        {1955, 42, {3, 12, 18, 30, 32, 49}, 0},
                                                        {1956, 41, {1, 2, 3, 4, 5, 6}, 49},
                                                        {1957, 41, {3, 12, 44, 45, 46, 47}, 12}});
@@ -57,14 +57,14 @@ TEST(WeekStatistics, EineWocheOhneZiehung)
 
 TEST(WeekStatistics, LeeresArchivUndUnmoeglicheWochen)
 {
-    EXPECT_TRUE(weekStatistics(testArchiv(Mittwochslotto, {}), 1, true).ziehungen.empty());
+    EXPECT_TRUE(weekStatistics(archivAus(Mittwochslotto, {}), 1, true).ziehungen.empty());
     for (const std::int32_t woche : {-1, 0, 54, 2147483647})
         EXPECT_TRUE(weekStatistics(vierZiehungen(), woche, true).ziehungen.empty()) << woche;
 }
 
 TEST(WeekStatistics, ZahlenAusserhalbZaehlenNicht)
 {
-    const ZiehungsArchiv archiv = testArchiv(Samstagslotto, {{1955, 41, {-1, 0, 50, 2147483647, 1, 49}, 99}});
+    const ZiehungsArchiv archiv = archivAus(Samstagslotto, {{1955, 41, {-1, 0, 50, 2147483647, 1, 49}, 99}});
     const Wochenstatistik statistik = weekStatistics(archiv, 41, true);
     EXPECT_EQ(anzahl(statistik, 1), 1);
     EXPECT_EQ(anzahl(statistik, 49), 1);
@@ -74,14 +74,14 @@ TEST(WeekStatistics, ZahlenAusserhalbZaehlenNicht)
 TEST(NaechsteSpielwoche, FolgtDerLetztenZiehung)
 {
     const auto nach = [](std::int32_t woche) {
-        return naechsteSpielwoche(testArchiv(Samstagslotto, {{2020, woche, {1, 2, 3, 4, 5, 6}, 0}}));
+        return naechsteSpielwoche(archivAus(Samstagslotto, {{2020, woche, {1, 2, 3, 4, 5, 6}, 0}}));
     };
     EXPECT_EQ(nach(1), 2);
     EXPECT_EQ(nach(52), 53);
     EXPECT_EQ(nach(53), 1);
     EXPECT_EQ(nach(2147483647), 1);
     EXPECT_EQ(nach(-7), 1);
-    EXPECT_EQ(naechsteSpielwoche(testArchiv(Samstagslotto, {})), 1);
+    EXPECT_EQ(naechsteSpielwoche(archivAus(Samstagslotto, {})), 1);
 }
 
 TEST(Wochenzeilen, DieZahlenStehenAufIhrenPlaetzen)

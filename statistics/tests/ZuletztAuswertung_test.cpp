@@ -1,6 +1,6 @@
 #include "archive/logic/Ziehungskalender.h"
 #include "statistics/logic/ZuletztAuswertung.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -23,7 +23,7 @@ TestZiehung& ziehung(std::vector<TestZiehung>& ziehungen, std::size_t nr)
 
 ZiehungsArchiv mittwoch(std::int16_t spielart, const std::vector<TestZiehung>& ziehungen)
 {
-    ZiehungsArchiv archiv = testArchiv(spielart, ziehungen);
+    ZiehungsArchiv archiv = archivAus(spielart, ziehungen);
     BaueMittwochsDaten(archiv);
     return archiv;
 }
@@ -107,7 +107,7 @@ TEST(ZuletztAuswertung, WenigerZiehungenAlsDerSuchbeginnGebenLauterNullen)
     for (const std::int16_t spielart : {Samstagslotto, Mittwochslotto, MittwochslottoB}) {
         const std::int32_t anzahl = spielart == Samstagslotto ? 1999 : 240;
         const ZuletztAuswertung auswertung =
-            werteZuletztAus(testArchiv(spielart, gleiche(anzahl)), anzahl, ZZModus::Mit);
+            werteZuletztAus(archivAus(spielart, gleiche(anzahl)), anzahl, ZZModus::Mit);
         for (int zahl = 1; zahl <= 49; ++zahl)
             EXPECT_EQ(auswertung.fuer(zahl), LetztesAuftreten({0, spielart, "0000/00", ""})) << zahl;
     }

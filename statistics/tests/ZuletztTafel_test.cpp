@@ -1,5 +1,5 @@
 #include "statistics/logic/ZuletztTafel.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -70,7 +70,7 @@ TEST(ZuletztTafel, NenntDasSpiel)
 TEST(ZuletztTafel, NenntZiehungenUndStand)
 {
     const ZiehungsArchiv archiv =
-        testArchiv(Samstagslotto, {{1955, 41, {1, 2, 3, 4, 5, 6}, 0}, {1955, 9, {1, 2, 3, 4, 5, 6}, 0}});
+        archivAus(Samstagslotto, {{1955, 41, {1, 2, 3, 4, 5, 6}, 0}, {1955, 9, {1, 2, 3, 4, 5, 6}, 0}});
     EXPECT_EQ(ziehungsauswahl(archiv, 2), "1955/09 ZNr: 0002");
     EXPECT_EQ(gespeicherteZiehungenVonBis(archiv), "Gespeicherte Ziehungen von: 1955/41 bis: 1955/09, 2 Ziehungen");
     EXPECT_EQ(gespeicherteZiehungenVonBis(ZiehungsArchiv()), "");

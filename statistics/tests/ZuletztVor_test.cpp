@@ -1,5 +1,5 @@
 #include "statistics/logic/ZuletztVor.h"
-#include "statistics/tests/TestArchiv.h"
+#include "testhilfen/ArchivAus.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -20,7 +20,7 @@ TestZiehung& ziehung(std::vector<TestZiehung>& ziehungen, std::size_t nr)
 
 std::int32_t vor(const std::vector<TestZiehung>& ziehungen, std::int16_t spielart, ZZModus modus, std::size_t zahl)
 {
-    return zuletztVor(testArchiv(spielart, ziehungen), modus)[zahl - 1];
+    return zuletztVor(archivAus(spielart, ziehungen), modus)[zahl - 1];
 }
 
 TEST(ZuletztVor, DieLetzteZiehungIstNull)

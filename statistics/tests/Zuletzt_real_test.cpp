@@ -1,5 +1,5 @@
 #include "statistics/logic/ZuletztAuswertung.h"
-#include "statistics/tests/EchteDaten.h"
+#include "testhilfen/EchteDaten.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "archive/logic/Ziehungskalender.h"
 #include "listcontrol/screens/ListView.h"
 #include "statistics/screens/frmABSTAND.h"
-#include "tools/drive/Buehnentest.h"
+#include "statistics/tests/Statistiktest.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kSpalteWochen = 22;
 
-class Abstandsbildschirm : public Buehnentest {
+class Abstandsbildschirm : public Statistiktest {
 protected:
     /// The records of a file that hold a number, by its text alone; counted from 1.
     std::vector<int> treffer(const char* datei, int zahl, bool gewinnzahlen, bool zz) const

@@ -1,7 +1,7 @@
-#include "reports/tests/Schreibhindernisse.h"
+#include "testhilfen/Schreibhindernisse.h"
 #include "shell/elements/Bildschirm.h"
 #include "statistics/screens/frmHJAHR.h"
-#include "tools/drive/Buehnentest.h"
+#include "statistics/tests/Statistiktest.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,7 +13,7 @@ constexpr auto kSchreibfehler = "info|Tombrix|Fehler beim Schreiben! Mögliche U
                                 "1. Der aktuelle Ordner befindet sich auf einen schreibgeschützten Datenträger.\n"
                                 "2. Sie besitzen nicht die erforderlichen Rechte um in diesen Ordner zu schreiben.";
 
-class Jahrestabellenbildschirm : public Buehnentest {
+class Jahrestabellenbildschirm : public Statistiktest {
 protected:
     QString seitenpfad(const QString& name) const { return ordner.filePath("haeufigkeit-pro-jahr/" + name); }
 

@@ -1,10 +1,10 @@
 #include "shell/elements/Bildschirm.h"
 #include "statistics/screens/frmSJAHR.h"
-#include "tools/drive/Buehnentest.h"
+#include "statistics/tests/Statistiktest.h"
 
 namespace {
 
-class JahrUndWocheBildschirm : public Buehnentest {
+class JahrUndWocheBildschirm : public Statistiktest {
 protected:
     QStringList zeilen(const QString& liste) { return bedienung.zeilen(liste, 0, 100000).zeilen; }
     QString gewaehlte(const QString& liste) { return bedienung.gewaehlte(liste).zeilen.join(','); }

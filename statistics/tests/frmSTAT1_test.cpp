@@ -1,5 +1,5 @@
 #include "shell/elements/Bildschirm.h"
-#include "tools/drive/Buehnentest.h"
+#include "statistics/tests/Statistiktest.h"
 
 #include <QFileInfo>
 
@@ -28,7 +28,7 @@ std::array<int, 50> zaehleText(const std::string& datei, int von, int bis, int l
     return anzahl;
 }
 
-class Haeufigkeitsbildschirm : public Buehnentest {
+class Haeufigkeitsbildschirm : public Statistiktest {
 protected:
     static constexpr int kAlle = 100000;
 

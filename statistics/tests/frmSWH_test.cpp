@@ -1,12 +1,12 @@
 #include "shell/elements/Bildschirm.h"
 #include "statistics/screens/frmSWH.h"
-#include "tools/drive/Buehnentest.h"
+#include "statistics/tests/Statistiktest.h"
 
 #include <algorithm>
 
 namespace {
 
-class Wochenbildschirm : public Buehnentest {
+class Wochenbildschirm : public Statistiktest {
 protected:
     QStringList zeilen(const QString& liste) { return bedienung.zeilen(liste, 0, 100000).zeilen; }
 

@@ -1,6 +1,6 @@
 #include "archive/logic/Ziehungskalender.h"
 #include "statistics/screens/frmZuletzt.h"
-#include "tools/drive/Buehnentest.h"
+#include "statistics/tests/Statistiktest.h"
 
 #include <QFileInfo>
 
@@ -44,7 +44,7 @@ struct Datei {
     }
 };
 
-class Zuletztbildschirm : public Buehnentest {
+class Zuletztbildschirm : public Statistiktest {
 protected:
     Datei datei(const char* name) const { return Datei(ordner.filePath(name).toStdString()); }
     QString zelle(int zahl) { return lies(QString("Bezeichnung1(%1)").arg(zahl)); }

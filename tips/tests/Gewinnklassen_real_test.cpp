@@ -1,6 +1,6 @@
-#include "statistics/tests/EchteDaten.h"
-#include "tips/logic/Gewinntexte.h"
-#include "tips/logic/Trefferbilanz.h"
+#include "testhilfen/EchteDaten.h"
+#include "tips/rules/Gewinntexte.h"
+#include "tips/rules/Trefferbilanz.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,5 +1,5 @@
-#include "statistics/tests/TestArchiv.h"
-#include "tips/logic/Gewinntexte.h"
+#include "testhilfen/ArchivAus.h"
+#include "tips/rules/Gewinntexte.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -21,7 +21,7 @@ ZiehungsArchiv gleicheZiehungen(std::int16_t spielart, std::int32_t anzahl, std:
     TestZiehung ziehung{2000, 1, {1, 2, 4, 5, 6, 8}, zz};
     for (std::size_t i = 0; i < static_cast<std::size_t>(treffer); ++i)
         ziehung.zahlen[i] = kTip[i];
-    ZiehungsArchiv archiv = testArchiv(spielart, std::vector<TestZiehung>(static_cast<std::size_t>(anzahl), ziehung));
+    ZiehungsArchiv archiv = archivAus(spielart, std::vector<TestZiehung>(static_cast<std::size_t>(anzahl), ziehung));
     std::fill(archiv.s.begin() + 1, archiv.s.end(), sz);
     return archiv;
 }
@@ -186,7 +186,7 @@ TEST(Gewinnklassen, EineTrefferzahlDieEsNichtGibt)
 TEST(Gewinnklassen, UnsinnInTippOderZiehungTrifftNichts)
 {
     constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
-    const ZiehungsArchiv archiv = testArchiv(1, {{2000, 1, {0, -3, 50, kMax, 7, 7}, 0}});
+    const ZiehungsArchiv archiv = archivAus(1, {{2000, 1, {0, -3, 50, kMax, 7, 7}, 0}});
     EXPECT_EQ(countTreffer(archiv, {0, -3, 50, kMax, 8, 9}, 1), 0);
     EXPECT_EQ(countTreffer(archiv, {0, 0, 0, 0, 0, 7}, 1), 1);
     EXPECT_FALSE(zusatzzahlTrifft(archiv, 1, {0, 0, 0, 0, 0, 0}));
@@ -195,7 +195,7 @@ TEST(Gewinnklassen, UnsinnInTippOderZiehungTrifftNichts)
 TEST(Gewinnklassen, DieTreffermengeIstDieSchnittmenge)
 {
     // Each set of a draw's numbers, filled up with numbers of no draw.
-    const ZiehungsArchiv archiv = testArchiv(1, {{2000, 1, {1, 11, 21, 31, 41, 49}, 2}});
+    const ZiehungsArchiv archiv = archivAus(1, {{2000, 1, {1, 11, 21, 31, 41, 49}, 2}});
     const Kombination gezogen = archiv.gewinnzahlen(1);
     for (std::uint32_t menge = 0; menge < 64; ++menge) {
         Kombination tip{2, 3, 4, 5, 6, 7};

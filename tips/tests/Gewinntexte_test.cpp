@@ -1,7 +1,7 @@
 #include "shell/logic/Binomial.h"
 #include "shell/logic/Format.h"
-#include "tips/logic/Gewinnplantafel.h"
-#include "tips/logic/Gewinntexte.h"
+#include "tips/rules/Gewinnplantafel.h"
+#include "tips/rules/Gewinntexte.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

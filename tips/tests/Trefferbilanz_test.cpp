@@ -1,5 +1,5 @@
-#include "statistics/tests/TestArchiv.h"
-#include "tips/logic/Trefferbilanz.h"
+#include "testhilfen/ArchivAus.h"
+#include "tips/rules/Trefferbilanz.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -21,7 +21,7 @@ ZiehungsArchiv archivAllerTreffer()
             ziehungen.push_back(ziehung);
         }
     }
-    ZiehungsArchiv archiv = testArchiv(2, ziehungen);
+    ZiehungsArchiv archiv = archivAus(2, ziehungen);
     for (std::size_t nr = 1; nr < archiv.s.size(); ++nr)
         archiv.s[nr] = nr < 504 ? 4 : 7;
     return archiv;
@@ -68,7 +68,7 @@ TEST(Trefferbilanz, AlterPlanKenntKeinenZweier)
 
 TEST(Trefferbilanz, VorDerSuperzahlIstKeinZweierEinGewinn)
 {
-    ZiehungsArchiv archiv = testArchiv(2, std::vector<TestZiehung>(497, {1990, 1, {1, 2, 40, 41, 42, 43}, 0}));
+    ZiehungsArchiv archiv = archivAus(2, std::vector<TestZiehung>(497, {1990, 1, {1, 2, 40, 41, 42, 43}, 0}));
     std::fill(archiv.s.begin(), archiv.s.end(), 4);
     const Trefferbilanz alles = bilanz(archiv, bewerteNeu);
     EXPECT_EQ(alles.zweierRoh, 497);

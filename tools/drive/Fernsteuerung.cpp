@@ -1,6 +1,7 @@
 #include "tools/drive/Fernsteuerung.h"
 
 #include "shell/elements/Bildschirm.h"
+#include "tools/drive/Menueweg.h"
 
 #include <algorithm>
 #include <limits>
@@ -50,6 +51,7 @@ Fernsteuerung::Fernsteuerung(Buehne& buehne, std::function<void(const QString&)>
       ausgabe_(std::move(ausgabe)),
       befehle_(befehle())
 {
+    bedienung_.ausMenue = [this](const QString& bildschirm) { return geheAusMenue(bedienung_, buehne_, bildschirm); };
     takt_.setInterval(kTakt);
     connect(&takt_, &QTimer::timeout, this, [this] { arbeite(); });
     buehne_.pumpe.beiZug = [this] { arbeite(); };

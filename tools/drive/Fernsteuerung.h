@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/drive/Bedienung.h"
+#include "tools/buehne/Bedienung.h"
 
 #include <QElapsedTimer>
 #include <QTimer>

@@ -1,6 +1,7 @@
 // Runs the real screens and obeys command lines from standard input; README.md beside this file lists them.
 
-#include "shell/app/Programm.h"
+#include "shell/app/Programmstart.h"
+#include "shell/elements/Programm.h"
 #include "tools/drive/Fernsteuerung.h"
 
 #include <QCommandLineParser>
@@ -63,6 +64,7 @@ int main(int anzahl, char** argumente)
         return 2;
 
     Buehne buehne(optionen->verzeichnis);
+    registriereBildschirme(buehne.bildschirme);
     if (!optionen->zeit.isEmpty() && !buehne.uhr.stelle(optionen->zeit.toStdString())) {
         std::fputs("--clock: keine Zeit\n", stderr);
         return 2;
@@ -84,7 +86,7 @@ int main(int anzahl, char** argumente)
         zuEnde = true;
         QCoreApplication::quit();
     };
-    buehne.starte();
+    starteProgramm(buehne.umgebung);
     if (!zuEnde)
         QCoreApplication::exec();
     buehne.bildschirme.entladeAlle();

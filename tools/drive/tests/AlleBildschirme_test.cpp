@@ -2,7 +2,7 @@
 
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Zeilenansicht.h"
-#include "tools/drive/Buehnentest.h"
+#include "tools/drive/tests/Programmbuehne.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -67,7 +67,7 @@ bool sindSchatten(const QWidget* a, const QWidget* b)
     return a->objectName().startsWith("Bezeichnung3(") && b->objectName().startsWith("Bezeichnung3(");
 }
 
-class AlleBildschirme : public Buehnentest {
+class AlleBildschirme : public Programmbuehne {
 protected:
     void SetUp() override { starte(); }
 

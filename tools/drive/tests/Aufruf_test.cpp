@@ -1,6 +1,6 @@
 // The program tombrix-drive itself: its options, its standard input and output, its exit status.
 
-#include "tools/drive/Buehnentest.h"
+#include "tools/drive/tests/Programmbuehne.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -14,7 +14,7 @@ using testing::HasSubstr;
 
 constexpr int kGeduld = 20000; ///< milliseconds after which a call that does not end has failed
 
-class Aufruf : public Buehnentest {
+class Aufruf : public Programmbuehne {
 protected:
     /// Calls the program with the sample archive, or with the folder `verzeichnis`.
     void rufe(const QByteArray& eingabe, const QStringList& optionen = {}, const QString& verzeichnis = {})

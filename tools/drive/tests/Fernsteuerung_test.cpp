@@ -3,7 +3,7 @@
 #include "shell/elements/Farben.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
-#include "tools/drive/Buehnentest.h"
+#include "tools/drive/tests/Programmbuehne.h"
 #include "tools/drive/Fernsteuerung.h"
 
 #include <QApplication>
@@ -146,7 +146,7 @@ private:
     QTimer* Timer1;
 };
 
-class Fernsteuerungstest : public Buehnentest {
+class Fernsteuerungstest : public Programmbuehne {
 protected:
     void registriere(const QString& name)
     {

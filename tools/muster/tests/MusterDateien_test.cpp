@@ -1,7 +1,7 @@
 #include "tools/muster/MusterDateien.h"
 
 #include "archive/logic/Ziehungsdatei.h"
-#include "shell/tests/Pruefordner.h"
+#include "testhilfen/Pruefordner.h"
 #include "tools/muster/Muster.h"
 
 #include <gtest/gtest.h>

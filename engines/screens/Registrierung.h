@@ -1,0 +1,6 @@
+#pragma once
+
+class BildschirmVerzeichnis;
+
+/// Names the screens of the searches through combinations.
+void registriereSuchbildschirme(BildschirmVerzeichnis& verzeichnis);

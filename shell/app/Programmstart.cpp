@@ -1,0 +1,23 @@
+#include "shell/app/Programmstart.h"
+
+#include "archive/logic/ZiehungsArchiv.h"
+#include "archive/screens/Registrierung.h"
+#include "archive/screens/Spielartlader.h"
+#include "engines/screens/Registrierung.h"
+#include "shell/app/frmLSTART.h"
+#include "shell/elements/BildschirmVerzeichnis.h"
+#include "statistics/screens/Registrierung.h"
+
+void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
+{
+    verzeichnis.registriere<frmLSTART>("frmLSTART");
+    registriereArchivbildschirme(verzeichnis);
+    registriereStatistikbildschirme(verzeichnis);
+    registriereSuchbildschirme(verzeichnis);
+}
+
+void starteProgramm(Umgebung& umgebung)
+{
+    if (ladeSpielart(umgebung, SpielartStart))
+        umgebung.bildschirme->oeffne("frmLSTART");
+}
