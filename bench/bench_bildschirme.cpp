@@ -1,7 +1,7 @@
 #include "shell/app/Programmstart.h"
-#include "shell/elements/Programm.h"
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Liste.h"
+#include "shell/elements/Programm.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Zufall.h"
 #include "tools/drive/Menueweg.h"
@@ -193,10 +193,9 @@ QString verzeichnis()
 void maleOffene(const Buehne& buehne)
 {
     QCoreApplication::processEvents();
-    for (Bildschirm* bildschirm : buehne.bildschirme.geladene()) {
+    for (Bildschirm* bildschirm : buehne.bildschirme.geladene())
         if (bildschirm->isVisible())
             benchmark::DoNotOptimize(bildschirm->grab().toImage());
-    }
 }
 
 /// From nothing to the painted menu: both loads of the archive, the screen, its first picture.

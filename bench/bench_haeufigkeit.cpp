@@ -36,10 +36,9 @@ std::array<std::int16_t, 49> zaehleSpaltenweise(const ZiehungsArchiv& ziehungen,
     std::array<std::int16_t, 49> anzahl{};
     for (const auto* spalte :
          {&ziehungen.z1, &ziehungen.z2, &ziehungen.z3, &ziehungen.z4, &ziehungen.z5, &ziehungen.z6}) {
-        for (std::size_t nr = 1; nr <= static_cast<std::size_t>(ziehungen.AnzahlZiehungen); ++nr) {
+        for (std::size_t nr = 1; nr <= static_cast<std::size_t>(ziehungen.AnzahlZiehungen); ++nr)
             if (ziehungen.jjjj[nr] >= bereich.von && ziehungen.jjjj[nr] <= bereich.bis)
                 ++anzahl[static_cast<std::size_t>((*spalte)[nr] - 1)];
-        }
     }
     return anzahl;
 }

@@ -25,10 +25,9 @@ std::size_t letzte()
 
 bool enthaelt(std::size_t nr, int zahl)
 {
-    for (const std::int32_t eine : samstagsarchiv().gewinnzahlen(nr)) {
+    for (const std::int32_t eine : samstagsarchiv().gewinnzahlen(nr))
         if (eine == zahl)
             return true;
-    }
     return samstagsarchiv().zz[nr] == zahl;
 }
 
@@ -43,10 +42,9 @@ std::int32_t zaehlePlump(const ZiehungsArchiv::Spalte& schluessel, int wert, int
 std::map<int, std::array<std::int32_t, 49>> jahrestabellePlump()
 {
     std::map<int, std::array<std::int32_t, 49>> jahre;
-    for (int jahr = samstagsarchiv().jjjj[1]; jahr <= samstagsarchiv().jjjj[letzte()]; ++jahr) {
+    for (int jahr = samstagsarchiv().jjjj[1]; jahr <= samstagsarchiv().jjjj[letzte()]; ++jahr)
         for (int zahl = 1; zahl <= 49; ++zahl)
             jahre[jahr][static_cast<std::size_t>(zahl - 1)] = zaehlePlump(samstagsarchiv().jjjj, jahr, zahl);
-    }
     return jahre;
 }
 
@@ -63,10 +61,9 @@ bool gleich()
     const Zahlentabelle tabelle = yearTable(samstagsarchiv(), ZZModus::Mit, false).tabelle;
     const auto plump = jahrestabellePlump();
     for (const Zahlenzeile& zeile : tabelle.zeilen) {
-        for (std::size_t i = 0; i < zeile.zellen.size(); ++i) {
+        for (std::size_t i = 0; i < zeile.zellen.size(); ++i)
             if (zeile.zellen[i].anzahl != plump.at(zeile.schluessel)[i])
                 return false;
-        }
     }
     return countPerWeek(samstagsarchiv(), kZahl, ZZModus::Mit) == wochenPlump();
 }

@@ -1,7 +1,7 @@
 #include "listcontrol/logic/ListBoxSort.h"
-#include "shell/logic/ListenModell.h"
 #include "listcontrol/logic/modShellSort.h"
 #include "shell/logic/Format.h"
+#include "shell/logic/ListenModell.h"
 #include "shell/logic/Zufall.h"
 
 #include <algorithm>
@@ -33,9 +33,8 @@ const std::vector<std::string>& ergebniszeilen()
             zeile = Format(lottozahl(zufall.Rnd()), "@@") + " mal -> ";
             std::array<int, 6> zahlen = sechsZahlen(zufall);
             std::ranges::sort(zahlen);
-            for (const int zahl : zahlen) {
+            for (const int zahl : zahlen)
                 zeile += Format(zahl, "@@@");
-            }
         }
         return neu;
     }();
@@ -57,9 +56,8 @@ std::vector<std::string> kopiereUndSortiere()
 {
     std::vector<std::string> zeilen;
     zeilen.reserve(kZeilen);
-    for (const std::string& zeile : ergebniszeilen()) {
+    for (const std::string& zeile : ergebniszeilen())
         zeilen.push_back(zeile);
-    }
     std::ranges::sort(zeilen);
     return zeilen;
 }
@@ -67,18 +65,16 @@ std::vector<std::string> kopiereUndSortiere()
 std::vector<std::string> fuelleSortierteListe()
 {
     ListenModell liste({.Sorted = true});
-    for (const std::string& zeile : ergebniszeilen()) {
+    for (const std::string& zeile : ergebniszeilen())
         liste.AddItem(zeile);
-    }
     return liste.zeilen();
 }
 
 std::vector<std::string> fuelleUndSortiereListe()
 {
     ListenModell liste;
-    for (const std::string& zeile : ergebniszeilen()) {
+    for (const std::string& zeile : ergebniszeilen())
         liste.AddItem(zeile);
-    }
     ListBoxSort(liste);
     return liste.zeilen();
 }
@@ -155,9 +151,8 @@ void formatZweistellig(benchmark::State& stand)
 void formatGruppiert(benchmark::State& stand)
 {
     int wert = 0;
-    for (auto _ : stand) {
+    for (auto _ : stand)
         benchmark::DoNotOptimize(Format(wert++, "##,###,##0"));
-    }
 }
 
 BENCHMARK(stdSortZeilen)->UseManualTime()->Unit(benchmark::kMillisecond);

@@ -26,10 +26,9 @@ ZuletztGezogen zuletztEinfach(const ZiehungsArchiv& ziehungen, std::int32_t von,
     ZuletztGezogen letzte{};
     for (std::int32_t nr = von; nr <= bis; ++nr) {
         const auto i = static_cast<std::size_t>(nr);
-        if (zaehltGewinnzahlen(modus)) {
+        if (zaehltGewinnzahlen(modus))
             for (const std::int32_t zahl : ziehungen.gewinnzahlen(i))
                 letzte[static_cast<std::size_t>(zahl - 1)] = nr;
-        }
         if (zaehltZusatzzahl(modus) && ziehungen.zz[i] > 0)
             letzte[static_cast<std::size_t>(ziehungen.zz[i] - 1)] = nr;
     }
@@ -100,12 +99,11 @@ BENCHMARK(maximumPlain)->DenseRange(1, 3)->Unit(benchmark::kMicrosecond);
 /// The program and the plain loops give the same in every mode.
 bool stimmen()
 {
-    for (const ZZModus jeder : {ZZModus::Ohne, ZZModus::Mit, ZZModus::Nur}) {
+    for (const ZZModus jeder : {ZZModus::Ohne, ZZModus::Mit, ZZModus::Nur})
         if (zuletztGezogen(samstagsarchiv(), 1, samstagsarchiv().AnzahlZiehungen, jeder) !=
                 zuletztEinfach(samstagsarchiv(), 1, samstagsarchiv().AnzahlZiehungen, jeder) ||
             laengsterAbstand(samstagsarchiv(), jeder) != laengsterAbstandEinfach(samstagsarchiv(), jeder))
             return false;
-    }
     return true;
 }
 

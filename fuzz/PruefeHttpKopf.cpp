@@ -32,10 +32,9 @@ std::string pruefeHttpKopf(std::string_view bytes)
     const HttpKopf kopf = liesHttpKopf(bytes);
     if (kopf.status != 0 && (kopf.status < 100 || kopf.status > 999))
         return "no status";
-    for (const auto& [name, wert] : kopf.felder) {
+    for (const auto& [name, wert] : kopf.felder)
         if (name.empty() || name.find_first_of(":\n") != std::string::npos || wert.find('\n') != std::string::npos)
             return "no field";
-    }
     const auto text = kopf.ContentLength();
     if (text && httpLaenge(*text).value_or(0) < 0)
         return "a negative length";

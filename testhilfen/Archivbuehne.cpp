@@ -13,9 +13,8 @@ namespace {
 const QTemporaryDir& musterordner()
 {
     static const QTemporaryDir ordner;
-    static const auto fehler =
-        schreibeMusterDateien(ordner.path().toStdString(),
-                              std::chrono::sys_days(std::chrono::year{2026} / std::chrono::November / 21));
+    static const auto fehler = schreibeMusterDateien(
+        ordner.path().toStdString(), std::chrono::sys_days(std::chrono::year{2026} / std::chrono::November / 21));
     EXPECT_EQ(fehler.value_or(""), "");
     return ordner;
 }
@@ -32,8 +31,8 @@ void Archivbuehne::starte()
 {
     ladeSpielart(buehne.umgebung, SpielartStart);
     buehne.bildschirme.registriere("frmLSTART", [](Umgebung& umgebung) {
-        return std::make_unique<Menueersatz>(
-            umgebung, [&umgebung](std::int16_t spielart) { ladeSpielart(umgebung, spielart); });
+        return std::make_unique<Menueersatz>(umgebung,
+                                             [&umgebung](std::int16_t spielart) { ladeSpielart(umgebung, spielart); });
     });
     buehne.bildschirme.oeffne("frmLSTART");
 }

@@ -83,10 +83,9 @@ std::string server(const HttpAnfrage& anfrage)
 
 std::optional<std::string_view> HttpKopf::feld(std::string_view name) const
 {
-    for (const auto& [feldname, wert] : felder) {
+    for (const auto& [feldname, wert] : felder)
         if (gleichOhneGrossKlein(feldname, name))
             return wert;
-    }
     return std::nullopt;
 }
 

@@ -130,9 +130,8 @@ Ziehungsleser::Ergebnis Ziehungsleser::lies(Ziehungssatz& satz)
         return Ergebnis::Ende;
     if (leerzeile)
         return Ergebnis::Bruch;
-    for (std::int32_t& zahl : satz) {
+    for (std::int32_t& zahl : satz)
         if (!liesZahl(zahl))
             return Ergebnis::Bruch;
-    }
     return Ergebnis::Satz;
 }

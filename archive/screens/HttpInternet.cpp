@@ -199,10 +199,9 @@ bool HttpInternet::warteAufDaten()
     QElapsedTimer seit;
     seit.start();
     const qint64 vorher = socket_->bytesAvailable();
-    while (socket_->bytesAvailable() == vorher && socket_->state() == QAbstractSocket::ConnectedState) {
+    while (socket_->bytesAvailable() == vorher && socket_->state() == QAbstractSocket::ConnectedState)
         if (!socket_->waitForReadyRead(kScheibe) && socket_->state() == QAbstractSocket::ConnectedState && !warte(seit))
             return false;
-    }
     return true;
 }
 

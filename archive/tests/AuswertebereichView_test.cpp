@@ -1,6 +1,6 @@
 #include "archive/screens/AuswertebereichView.h"
-#include "shell/elements/Bildschirm.h"
 #include "archive/tests/Archivbildschirmtest.h"
+#include "shell/elements/Bildschirm.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,5 +1,4 @@
 #include "archive/logic/Dateiinhalt.h"
-
 #include "testhilfen/Pruefordner.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "archive/logic/clsDownload.h"
 #include "archive/screens/HttpInternet.h"
-#include "testhilfen/Testserver.h"
 #include "testhilfen/Pruefordner.h"
+#include "testhilfen/Testserver.h"
 
 #include <QCoreApplication>
 #include <QCursor>

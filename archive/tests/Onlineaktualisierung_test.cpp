@@ -1,9 +1,9 @@
 #include "archive/logic/Onlineaktualisierung.h"
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/clsDownload.h"
-#include "testhilfen/Kindprozess.h"
 #include "archive/tests/Probeinternet.h"
 #include "archive/tests/Testsaetze.h"
+#include "testhilfen/Kindprozess.h"
 #include "testhilfen/Pruefordner.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "testhilfen/Testserver.h"
 #include "archive/tests/Archivbildschirmtest.h"
+#include "testhilfen/Testserver.h"
 
 #include <QDir>
 #include <QFile>

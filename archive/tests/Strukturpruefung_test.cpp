@@ -13,7 +13,10 @@ std::string mit(std::size_t stelle, const std::string& text)
     return satz.replace(stelle - 1, text.size(), text);
 }
 
-Strukturbericht pruefe(const std::string& bytes) { return pruefeStruktur(bytes, {}); }
+Strukturbericht pruefe(const std::string& bytes)
+{
+    return pruefeStruktur(bytes, {});
+}
 
 TEST(Datensatz, OhneFehler)
 {
@@ -38,10 +41,9 @@ TEST(Datensatz, LaengeUnterUndUeber30)
 
 TEST(Datensatz, JedeGeprueefteStelleMeldetIhrenFehler)
 {
-    const std::vector<std::pair<std::size_t, int>> stellen{{2, 4},   {3, 4},   {4, 4},   {23, 23}, {24, 24},
-                                                           {25, 25}, {26, 26}, {27, 27}, {28, 28}, {29, 26},
-                                                           {30, 28}, {6, 30},  {9, 31},  {12, 32}, {15, 33},
-                                                           {18, 34}, {21, 35}};
+    const std::vector<std::pair<std::size_t, int>> stellen{{2, 4},   {3, 4},   {4, 4},   {23, 23}, {24, 24}, {25, 25},
+                                                           {26, 26}, {27, 27}, {28, 28}, {29, 26}, {30, 28}, {6, 30},
+                                                           {9, 31},  {12, 32}, {15, 33}, {18, 34}, {21, 35}};
     for (const auto& [stelle, fehler] : stellen)
         EXPECT_EQ(pruefeDatensatz(mit(stelle, "x")), fehler) << stelle;
 }
@@ -91,9 +93,9 @@ TEST(Struktur, FehlerzeileNenntDenSatzDavor)
     const Strukturbericht bericht =
         pruefe("falsch\r\n1998,13,02,08,10,12,22,35,46,3\r\nkurz\r\n1998,51,02,08,10,12,22,35,46,3\r\n1\r\n");
     EXPECT_EQ(bericht.KorrekteZiehungen, 2);
-    EXPECT_EQ(bericht.fehlerzeilen,
-              (std::vector<std::string>{"Error 01 nach Ziehung: 1955/4X >> falsch <<",
-                                        "Error 01 nach Ziehung: 1998 >> kurz <<", "Error 02 nach Ziehung: 1999 >> 1 <<"}));
+    EXPECT_EQ(bericht.fehlerzeilen, (std::vector<std::string>{"Error 01 nach Ziehung: 1955/4X >> falsch <<",
+                                                              "Error 01 nach Ziehung: 1998 >> kurz <<",
+                                                              "Error 02 nach Ziehung: 1999 >> 1 <<"}));
 }
 
 TEST(Struktur, DieKennungRundetHalbeZurGeradenZahl)

@@ -1,13 +1,10 @@
-#include "archive/logic/Ziehungsschreiber.h"
-
 #include "archive/logic/Ziehungsdatei.h"
+#include "archive/logic/Ziehungsschreiber.h"
 #include "testhilfen/Pruefordner.h"
 
-#include <gtest/gtest.h>
-
 #include <csignal>
+#include <gtest/gtest.h>
 #include <random>
-
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>

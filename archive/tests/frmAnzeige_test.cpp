@@ -293,8 +293,7 @@ TEST_F(Anzeigebildschirm, HilfeInfoUndHinweise)
     klicke("Command1");
     EXPECT_TRUE(sichtbar("Rahmen1"));
     ueberfahre("Befehl10");
-    EXPECT_EQ(titel(),
-              "Auf die Spielart Mittwochslotto schalten, um die Ziehungsdatei  Malotto.dat zu aktualisieren.");
+    EXPECT_EQ(titel(), "Auf die Spielart Mittwochslotto schalten, um die Ziehungsdatei  Malotto.dat zu aktualisieren.");
     ueberfahre("cmdNotepad");
     EXPECT_EQ(titel(), "Korrigieren oder Aktualisieren der Datei SALOTTO.DAT mit Notepad.exe");
 }

@@ -1,7 +1,7 @@
 // The whole program, killed in the middle of online updates: the Ziehungsdatei is always there, old or new.
 
-#include "testhilfen/Kindprozess.h"
 #include "archive/tests/Onlinetest.h"
+#include "testhilfen/Kindprozess.h"
 
 #include <fcntl.h>
 #include <random>

@@ -1,7 +1,7 @@
 #include "archive/screens/Fortschrittsfeld.h"
-#include "testhilfen/Kindprozess.h"
 #include "archive/tests/Onlinetest.h"
 #include "shell/elements/Bildschirm.h"
+#include "testhilfen/Kindprozess.h"
 
 #include <QCoreApplication>
 #include <QCursor>

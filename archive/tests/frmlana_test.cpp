@@ -86,8 +86,8 @@ TEST_F(Strukturbildschirm, OhneEditorNenntDieBoxDasProgramm)
     buehne.oeffner.scheitert = true;
     for (const char* knopf : {"Befehl3", "Befehl4", "Befehl5"})
         klicke(knopf);
-    EXPECT_EQ(boxen(), (QStringList{
-                           "info|Tombrix|ERROR 53: MS-Write wurde nicht gefunden. Verwenden Sie einen  vorhandenen "
+    EXPECT_EQ(boxen(),
+              (QStringList{"info|Tombrix|ERROR 53: MS-Write wurde nicht gefunden. Verwenden Sie einen  vorhandenen "
                            "ASCII-Text-Editor um die DateiSALOTTO.DAT zu aktualisieren.",
                            "info|Tombrix|ERROR 53: DOS Editor EDIT.COM  wurde nicht gefunden. Verwenden Sie einen  "
                            "vorhandenen ASCII-Editor um die Datei SALOTTO.DAT zu aktualisieren.",

@@ -3,4 +3,7 @@
 #include <QString>
 
 int ziehungen(const ZiehungsArchiv& archiv);
-int ziehungen(const ZiehungsArchiv& archiv) { return archiv.AnzahlZiehungen; }
+int ziehungen(const ZiehungsArchiv& archiv)
+{
+    return archiv.AnzahlZiehungen;
+}

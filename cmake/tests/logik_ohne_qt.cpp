@@ -1,4 +1,7 @@
 #include "archive/logic/ZiehungsArchiv.h"
 
 int ziehungen(const ZiehungsArchiv& archiv);
-int ziehungen(const ZiehungsArchiv& archiv) { return archiv.AnzahlZiehungen; }
+int ziehungen(const ZiehungsArchiv& archiv)
+{
+    return archiv.AnzahlZiehungen;
+}

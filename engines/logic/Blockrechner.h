@@ -72,10 +72,9 @@ template <class Zaehler, int K, std::size_t Ab>
                 t[j] = Vektor{} + static_cast<Zaehler>(auftrag.fest[j] + auftrag.je[j][e]);
                 Vektoren<Zaehler>::addiere(t[j], auftrag.je[j] + f);
 #pragma GCC unroll 8
-                for (std::size_t r = 0; r < 6; ++r) {
+                for (std::size_t r = 0; r < 6; ++r)
                     if (r < auftrag.zeilenzahl(j))
                         Vektoren<Zaehler>::addiere(t[j], auftrag.zeilen[j][r] + stelle);
-                }
             }
 #pragma GCC unroll 8
             for (std::size_t h = Ab; h <= kGroesste; ++h) {

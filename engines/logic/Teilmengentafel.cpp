@@ -116,12 +116,11 @@ template <class Zaehler> void Teilmengentafel<Zaehler>::ordneGanze()
         ganze_.swap(geordnet);
     }
     auto ziel = ganze_.begin();
-    for (const GanzeReihe& reihe : ganze_) {
+    for (const GanzeReihe& reihe : ganze_)
         if (ziel != ganze_.begin() && std::prev(ziel)->nummer == reihe.nummer)
             ++std::prev(ziel)->anzahl;
         else
             *ziel++ = reihe;
-    }
     ganze_.erase(ziel, ganze_.end());
 }
 

@@ -45,13 +45,12 @@ Trefferdetails::Trefferdetails(Bildschirm& bildschirm, std::span<const Treffersp
 
 void Trefferdetails::baueSpalten()
 {
-    for (const Trefferspalte& spalte : spalten_) {
+    for (const Trefferspalte& spalte : spalten_)
         if (spalte.feld == Trefferfeld::Trenner)
             ListView1->AddTrenner(spalte.schluessel);
         else
             ListView1->AddColumn(spalte.schluessel, spalte.titel, ausrichtung(spalte.feld),
                                  ListView1->breiteFuerZeichen(spalte.zeichen));
-    }
     ListView1->setColumnsAutoSize(true);
     ListView1->setDrawCallback(this);
 }
@@ -96,11 +95,10 @@ void Trefferdetails::fuelleWeiter()
 void Trefferdetails::haengeAn(const Gewinnfall& fall)
 {
     const int zeile = ListView1->AddItem({});
-    for (std::size_t spalte = 0; spalte < spalten_.size(); ++spalte) {
+    for (std::size_t spalte = 0; spalte < spalten_.size(); ++spalte)
         if (spalten_[spalte].feld != Trefferfeld::Trenner)
             ListView1->setItemText(zeile, static_cast<int>(spalte),
                                    trefferzelle(spalten_[spalte].feld, fall, *kombination_));
-    }
 }
 
 void Trefferdetails::CustomDraw(int row, int column, Farbe& backColor, Farbe& foreColor, bool& handled)

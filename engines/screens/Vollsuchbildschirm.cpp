@@ -1,14 +1,14 @@
 #include "engines/screens/Vollsuchbildschirm.h"
 
+#include "archive/logic/Spielarttexte.h"
+#include "archive/screens/Spielartenwahl.h"
 #include "engines/screens/Suchlaufanzeige.h"
 #include "listcontrol/logic/modLargeList.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
-#include "archive/screens/Spielartenwahl.h"
 #include "shell/elements/Textanzeige.h"
 #include "shell/elements/Utf8.h"
-#include "archive/logic/Spielarttexte.h"
 
 #include <QGroupBox>
 #include <QLabel>

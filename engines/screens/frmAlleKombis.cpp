@@ -1,11 +1,11 @@
 #include "engines/screens/frmAlleKombis.h"
 
+#include "archive/screens/Spielartenwahl.h"
 #include "engines/logic/Kombinationseingabe.h"
 #include "engines/screens/Fensterrollen.h"
 #include "engines/screens/Trefferdetails.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Liste.h"
-#include "archive/screens/Spielartenwahl.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"

@@ -1,10 +1,10 @@
 #include "engines/screens/frmFUENFW.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "engines/logic/WiederholungBericht.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
-#include "archive/logic/Spielarttexte.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

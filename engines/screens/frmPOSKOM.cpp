@@ -1,5 +1,6 @@
 #include "engines/screens/frmPOSKOM.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "shell/elements/AutomatischeAnzeige.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Lauf.h"
@@ -7,7 +8,6 @@
 #include "shell/elements/Stil.h"
 #include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
-#include "archive/logic/Spielarttexte.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -104,10 +104,9 @@ void frmPOSKOM::beimZeigen()
 
 void frmPOSKOM::beimSchliessen()
 {
-    for (const char* name : {kRechner, kDefinition}) {
+    for (const char* name : {kRechner, kDefinition})
         if (Bildschirm* offen = umgebung().bildschirme->geladen(name))
             offen->schliesse();
-    }
 }
 
 void frmPOSKOM::oeffne(const QString& bildschirm)

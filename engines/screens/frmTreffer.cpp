@@ -1,6 +1,7 @@
 #include "engines/screens/frmTreffer.h"
 
 #include "archive/logic/Ziehungsmengen.h"
+#include "archive/screens/Spielartenwahl.h"
 #include "archive/screens/Spielartlader.h"
 #include "engines/screens/Trefferdetails.h"
 #include "listcontrol/logic/ListBoxSort.h"
@@ -8,7 +9,6 @@
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Pfeilknopf.h"
-#include "archive/screens/Spielartenwahl.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/clsTimer.h"

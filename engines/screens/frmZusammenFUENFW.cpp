@@ -1,10 +1,10 @@
 #include "engines/screens/frmZusammenFUENFW.h"
 
+#include "archive/screens/Spielartenwahl.h"
 #include "engines/logic/NieGezogeneDreier.h"
 #include "engines/logic/WiederholungBericht.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
-#include "archive/screens/Spielartenwahl.h"
 #include "shell/logic/clsTimer.h"
 
 #include <QGroupBox>

@@ -72,8 +72,8 @@ TEST(Positionsbereich, PrueftInDerReihenfolge)
 TEST(Positionsliste, EineZeile)
 {
     const ZiehungsArchiv archiv = archivAus(1, {{1955, 41, {5, 10, 20, 30, 40, 49}, 0},
-                                                 {2024, 7, {1, 2, 3, 4, 5, 6}, 0},
-                                                 {2024, 52, {44, 45, 46, 47, 48, 49}, 0}});
+                                                {2024, 7, {1, 2, 3, 4, 5, 6}, 0},
+                                                {2024, 52, {44, 45, 46, 47, 48, 49}, 0}});
     EXPECT_EQ(positionszeile(archiv, 1), "  6.324.251  ->  1955/41  05 10 20 30 40 49");
     EXPECT_EQ(positionszeile(archiv, 2), "          1  ->  2024/07  01 02 03 04 05 06");
     EXPECT_EQ(positionszeile(archiv, 3), " 13.983.816  ->  2024/52  44 45 46 47 48 49");
@@ -141,8 +141,8 @@ TEST(Positionsliste, LeeresArchivUndLauterGleiche)
 TEST(Positionsliste, UnsinnigeWerte)
 {
     const ZiehungsArchiv archiv = archivAus(1, {{kMin, kMax, {kMin, kMax, 0, -1, 50, 49}, 0},
-                                                 {2000, 1, {6, 5, 4, 3, 2, 1}, 0},
-                                                 {2000, 1, {1, 2, 3, 4, 5, 5}, 0}});
+                                                {2000, 1, {6, 5, 4, 3, 2, 1}, 0},
+                                                {2000, 1, {1, 2, 3, 4, 5, 5}, 0}});
     const auto liste = positionsliste(archiv, {});
     ASSERT_EQ(liste.zeilen.size(), 3U);
     EXPECT_EQ(liste.zeilen[0].substr(0, 17), std::string(11, ' ') + "  ->  ");

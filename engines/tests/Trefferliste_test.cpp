@@ -124,9 +124,7 @@ TEST(TrefferlisteTest, UngeradeSpaltenTrennenUndDieSchluesselSindEinmalig)
         for (std::size_t i = 0; i < spalten.size(); ++i) {
             EXPECT_EQ(spalten[i].feld == Trefferfeld::Trenner, i % 2 == 1);
             EXPECT_EQ(spalten[i].titel.empty(), i % 2 == 1);
-            if (i % 2 == 1) {
-                EXPECT_EQ(spalten[i].schluessel, "trenner" + std::to_string(i / 2 + 1));
-            }
+            EXPECT_TRUE(i % 2 == 0 || spalten[i].schluessel == "trenner" + std::to_string(i / 2 + 1));
             EXPECT_TRUE(schluessel.insert(spalten[i].schluessel).second);
         }
     };

@@ -88,9 +88,9 @@ TEST(NieGezogeneDreier, EineZiehungNimmtZwanzig)
 
 TEST(NieGezogeneDreier, EineZahlZaehltWoSieSteht)
 {
-    const ZiehungsArchiv archiv = archivAus(
-        Samstagslotto,
-        {{1955, 41, {41, 3, 3, 50, -7, 12}}, {1955, 42, {0, 0, 0, 0, 0, 0}}, {1955, 43, {1, 1, 1, 2, 2, 2}}});
+    const ZiehungsArchiv archiv =
+        archivAus(Samstagslotto,
+                  {{1955, 41, {41, 3, 3, 50, -7, 12}}, {1955, 42, {0, 0, 0, 0, 0, 0}}, {1955, 43, {1, 1, 1, 2, 2, 2}}});
     const Zeilen zeilen = nieGezogeneDreier(archiv);
     EXPECT_EQ(zeilen.size(), 18424U - 1U);
     EXPECT_EQ(std::ranges::count(zeilen, "   03 12 41"), 0);

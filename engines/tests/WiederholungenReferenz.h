@@ -44,10 +44,9 @@ inline std::vector<std::string> suchschluessel(const ZiehungsArchiv& archiv, int
             if (std::popcount(spalten) != k)
                 continue;
             std::string text;
-            for (std::size_t i = 0; i < 6; ++i) {
+            for (std::size_t i = 0; i < 6; ++i)
                 if ((spalten >> i & 1U) != 0)
                     text += (text.empty() ? "" : ",") + std::to_string(zahlen[i]);
-            }
             alle.push_back(text);
         }
     }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "engines/screens/WiederholungsBildschirm.h"
-#include "engines/tests/WiederholungenReferenz.h"
 #include "engines/tests/Suchtest.h"
+#include "engines/tests/WiederholungenReferenz.h"
 
 #include <QCoreApplication>
 

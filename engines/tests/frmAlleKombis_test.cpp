@@ -1,12 +1,12 @@
 #include "engines/logic/KombinationAusNummer.h"
 #include "engines/logic/Trefferliste.h"
 #include "engines/screens/frmAlleKombis.h"
+#include "engines/tests/Suchtest.h"
 #include "engines/tests/ZaehlerReferenz.h"
 #include "listcontrol/screens/ListView.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Zahlen.h"
-#include "engines/tests/Suchtest.h"
 
 #include <QCoreApplication>
 #include <QScrollBar>

@@ -1,6 +1,6 @@
 #include "engines/screens/frmHGDV.h"
-#include "engines/tests/VollsucheReferenz.h"
 #include "engines/tests/Suchtest.h"
+#include "engines/tests/VollsucheReferenz.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,6 +1,6 @@
 #include "engines/screens/frmPOSKOM.h"
-#include "shell/elements/Liste.h"
 #include "engines/tests/Suchtest.h"
+#include "shell/elements/Liste.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -28,10 +28,9 @@ protected:
     QList<int> markierte()
     {
         QList<int> zahlen;
-        for (int zahl = 1; zahl <= 49; ++zahl) {
+        for (int zahl = 1; zahl <= 49; ++zahl)
             if (zustand(QString("Bezeichnung6(%1)").arg(zahl)).contains("back=#00ffff"))
                 zahlen << zahl;
-        }
         return zahlen;
     }
     QStringList gewaehlte(const QString& name) { return bedienung.gewaehlte(name).zeilen; }

@@ -1,5 +1,5 @@
-#include "shell/elements/Bildschirm.h"
 #include "engines/tests/Suchtest.h"
+#include "shell/elements/Bildschirm.h"
 
 namespace {
 
@@ -18,10 +18,9 @@ protected:
     QList<int> markierte()
     {
         QList<int> zahlen;
-        for (int zahl = 1; zahl <= 49; ++zahl) {
+        for (int zahl = 1; zahl <= 49; ++zahl)
             if (zustand(QString("Bezeichnung6(%1)").arg(zahl)).contains("back=#00ffff"))
                 zahlen << zahl;
-        }
         return zahlen;
     }
     void klickeZahl(int zahl) { klicke(QString("Bezeichnung6(%1)").arg(zahl)); }

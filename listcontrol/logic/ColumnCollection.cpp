@@ -7,9 +7,8 @@
 
 const Column& ColumnCollection::Item(int index) const
 {
-    if (index < 0 || index >= Count()) {
+    if (index < 0 || index >= Count())
         throw IndexFehler("ColumnCollection");
-    }
     return spalten_[static_cast<std::size_t>(index)];
 }
 
@@ -33,8 +32,7 @@ void ColumnCollection::Remove(int index)
 
 void ColumnCollection::Add(Column spalte)
 {
-    if (Index(spalte.key) >= 0) {
+    if (Index(spalte.key) >= 0)
         throw ListenFehler("ColumnCollection", "Objekt nicht eindeutig in Aufzählung!");
-    }
     spalten_.push_back(std::move(spalte));
 }

@@ -31,9 +31,8 @@ ListItem::Block ListItem::block(std::size_t spalten, std::size_t vorrat)
 {
     const std::size_t ohneText = sizeof(Kopf) + (spalten + 1) * sizeof(std::uint32_t);
     const std::size_t groesse = gerundet(ohneText + vorrat);
-    if (groesse - ohneText > std::numeric_limits<std::uint32_t>::max()) {
+    if (groesse - ohneText > std::numeric_limits<std::uint32_t>::max())
         throw std::bad_alloc();
-    }
     Block neu(static_cast<Kopf*>(::operator new(groesse)));
     *neu = {.vorrat = static_cast<std::uint32_t>(groesse - ohneText),
             .spalten = static_cast<std::uint32_t>(spalten),
@@ -51,9 +50,8 @@ ListItem::ListItem(int spalten, std::size_t vorrat)
 
 std::size_t ListItem::pruefe(int spalte) const
 {
-    if (spalte < 0 || spalte >= SubItemCount()) {
+    if (spalte < 0 || spalte >= SubItemCount())
         throw IndexFehler("ListItem");
-    }
     return static_cast<std::size_t>(spalte);
 }
 
@@ -85,16 +83,14 @@ void ListItem::setze(std::size_t fach, std::string_view text)
     const std::size_t bis = enden()[fach];
     const std::size_t laenge = Textlaenge();
     const std::size_t neueLaenge = laenge - (bis - ab) + text.size();
-    if (neueLaenge > kopf_->vorrat) {
+    if (neueLaenge > kopf_->vorrat)
         zieheUm(kopf_->spalten, std::max<std::size_t>(neueLaenge, kopf_->vorrat + kopf_->vorrat / 2));
-    }
     std::memmove(texte() + ab + text.size(), texte() + bis, laenge - bis);
     std::copy(text.begin(), text.end(), texte() + ab);
     // Unsigned, so that the texts behind move to the left as well.
     const auto schub = static_cast<std::uint32_t>(neueLaenge - laenge);
-    for (std::uint32_t* ende = enden() + fach; ende <= enden() + kopf_->spalten; ++ende) {
+    for (std::uint32_t* ende = enden() + fach; ende <= enden() + kopf_->spalten; ++ende)
         *ende += schub;
-    }
 }
 
 void ListItem::SetSubItemCount(int spalten)

@@ -53,9 +53,8 @@ struct Sortiervergleich {
 
     int operator()(const Sortierposten& links, const Sortierposten& rechts) const
     {
-        if (links.anfang == rechts.anfang) {
+        if (links.anfang == rechts.anfang)
             return links.anfang.istGanz() ? 0 : vergleich(*links.posten, *rechts.posten);
-        }
         const bool dahinter = links.anfang > rechts.anfang;
         return dahinter == (vergleich.richtung == Sortierrichtung::Aufsteigend) ? 1 : -1;
     }
@@ -66,16 +65,14 @@ struct Sortiervergleich {
 void ListItemCollection::setColumnCount(int spalten)
 {
     spalten_ = spalten;
-    for (ListItem& posten : posten_) {
+    for (ListItem& posten : posten_)
         posten.SetSubItemCount(spalten);
-    }
 }
 
 const ListItem& ListItemCollection::Item(int index) const
 {
-    if (index < 0 || index >= ItemCount()) {
+    if (index < 0 || index >= ItemCount())
         throw IndexFehler("ListItemCollection");
-    }
     return posten_[static_cast<std::size_t>(index)];
 }
 
@@ -86,20 +83,17 @@ ListItem& ListItemCollection::Item(int index)
 
 void ListItemCollection::Sort(int column, Sortierrichtung order)
 {
-    if (column < 0 || column >= spalten_) {
+    if (column < 0 || column >= spalten_)
         throw IndexFehler("ListItemCollection");
-    }
     std::vector<Sortierposten> folge;
     folge.reserve(posten_.size());
-    for (ListItem& posten : posten_) {
+    for (ListItem& posten : posten_)
         folge.push_back({Textanfang(posten.Text(column)), &posten});
-    }
     ShellSort(folge, Sortiervergleich{{.spalte = column, .richtung = order}});
     std::vector<ListItem> sortiert;
     sortiert.reserve(posten_.capacity());
-    for (const Sortierposten& einer : folge) {
+    for (const Sortierposten& einer : folge)
         sortiert.push_back(std::move(*einer.posten));
-    }
     posten_ = std::move(sortiert);
 }
 
@@ -120,19 +114,16 @@ void ListItemCollection::RemoveItem(int index)
 
 int ListItemCollection::AddItem(std::string_view text, std::string_view tag, int index)
 {
-    if (spalten_ == 0) {
+    if (spalten_ == 0)
         throw ListenFehler("ListItemCollection", "Kann Items nicht hinzufügen, wenn keine Spalten definiert wurden!");
-    }
-    if (index > ItemCount()) {
+    if (index > ItemCount())
         throw IndexFehler("ListItemCollection");
-    }
     // A row is likely to become as long as the one before it.
     ListItem neuer(spalten_, posten_.empty() ? text.size() + tag.size() : posten_.back().Textlaenge());
     neuer.setText(0, text);
     neuer.setTag(tag);
-    if (ItemCount() == kapazitaet_) {
+    if (ItemCount() == kapazitaet_)
         PrepareForItems(std::max(kapazitaet_ + 1, static_cast<int>(std::lrint(kapazitaet_ * 1.5))));
-    }
     const int platz = index < 0 ? ItemCount() : index;
     posten_.insert(posten_.begin() + platz, std::move(neuer));
     return platz;

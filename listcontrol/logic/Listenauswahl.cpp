@@ -14,22 +14,19 @@ void Listenauswahl::setMultiSelect(bool mehrfach)
 
 int Listenauswahl::SelectedItem() const
 {
-    if (anzahl_ == 0) {
+    if (anzahl_ == 0)
         return -1;
-    }
     int zeile = fokus_ >= 0 && posten_.Item(fokus_).Selected() ? fokus_ : 0;
-    while (!posten_.Item(zeile).Selected()) {
+    while (!posten_.Item(zeile).Selected())
         ++zeile;
-    }
     return zeile;
 }
 
 void Listenauswahl::waehle(int zeile, bool strg, bool umschalt)
 {
     if (mehrfach_ && umschalt) {
-        if (!strg) {
+        if (!strg)
             UnSelectAll();
-        }
         waehleBereich(std::max(0, anker_), zeile);
     } else if (mehrfach_ && strg) {
         setSelected(zeile, !posten_.Item(zeile).Selected());
@@ -43,81 +40,69 @@ void Listenauswahl::waehle(int zeile, bool strg, bool umschalt)
 void Listenauswahl::waehleBereich(int von, int bis)
 {
     const auto [erste, letzte] = std::minmax(von, bis);
-    for (int zeile = erste; zeile <= letzte; ++zeile) {
+    for (int zeile = erste; zeile <= letzte; ++zeile)
         setSelected(zeile, true);
-    }
 }
 
 void Listenauswahl::setSelected(int zeile, bool gewaehlt)
 {
-    if (posten_.Item(zeile).Selected() == gewaehlt) {
+    if (posten_.Item(zeile).Selected() == gewaehlt)
         return;
-    }
-    if (gewaehlt && !mehrfach_) {
+    if (gewaehlt && !mehrfach_)
         UnSelectAll();
-    }
     posten_.Item(zeile).setSelected(gewaehlt);
     anzahl_ += gewaehlt ? 1 : -1;
 }
 
 void Listenauswahl::waehleAllein(int zeile)
 {
-    if (zeile >= 0) {
+    if (zeile >= 0)
         posten_.Item(zeile);
-    }
     UnSelectAll();
     fokus_ = std::max(-1, zeile);
     anker_ = fokus_;
-    if (fokus_ >= 0) {
+    if (fokus_ >= 0)
         setSelected(fokus_, true);
-    }
 }
 
 void Listenauswahl::SelectAll()
 {
-    if (mehrfach_ && posten_.ItemCount() > 0) {
+    if (mehrfach_ && posten_.ItemCount() > 0)
         waehleBereich(0, posten_.ItemCount() - 1);
-    }
 }
 
 void Listenauswahl::UnSelectAll()
 {
     // Mostly the focus row is the only one: no need to look through all.
-    if (fokus_ >= 0) {
+    if (fokus_ >= 0)
         setSelected(fokus_, false);
-    }
-    for (int zeile = 0; anzahl_ > 0; ++zeile) {
+    for (int zeile = 0; anzahl_ > 0; ++zeile)
         setSelected(zeile, false);
-    }
 }
 
 void Listenauswahl::nachHinzufuegen(int zeile)
 {
-    for (int* stelle : {&fokus_, &anker_}) {
+    for (int* stelle : {&fokus_, &anker_})
         *stelle += *stelle >= zeile ? 1 : 0;
-    }
 }
 
 void Listenauswahl::vorEntfernen(int zeile)
 {
     setSelected(zeile, false);
     const int letzteDanach = posten_.ItemCount() - 2;
-    for (int* stelle : {&fokus_, &anker_}) {
+    for (int* stelle : {&fokus_, &anker_})
         *stelle = std::min(*stelle - (*stelle > zeile ? 1 : 0), letzteDanach);
-    }
 }
 
 void Listenauswahl::nachVerschieben(int von, int nach)
 {
-    for (int* stelle : {&fokus_, &anker_}) {
-        if (*stelle == von) {
+    for (int* stelle : {&fokus_, &anker_})
+        if (*stelle == von)
             *stelle = nach;
-        } else if (von < *stelle && *stelle <= nach) {
+        else if (von < *stelle && *stelle <= nach)
             --*stelle;
-        } else if (nach <= *stelle && *stelle < von) {
+        else if (nach <= *stelle && *stelle < von)
             ++*stelle;
-        }
-    }
 }
 
 void Listenauswahl::nachLeeren()

@@ -12,18 +12,14 @@ constexpr int kTeilergriff = 4; ///< pixels to each side of a right edge
 
 void Spaltenlage::ordne(int breite, bool strecken)
 {
-    for (int neue = static_cast<int>(folge_.size()); neue < spalten_.Count(); ++neue) {
+    for (int neue = static_cast<int>(folge_.size()); neue < spalten_.Count(); ++neue)
         folge_.push_back(neue);
-    }
     plaetze_.clear();
-    for (const int spalte : folge_) {
-        if (spalten_.Item(spalte).Visible) {
+    for (const int spalte : folge_)
+        if (spalten_.Item(spalte).Visible)
             plaetze_.push_back({spalte, gesamtbreite(), spalten_.Item(spalte).Width});
-        }
-    }
-    if (strecken && breite > gesamtbreite()) {
+    if (strecken && breite > gesamtbreite())
         verteile(breite - gesamtbreite());
-    }
 }
 
 void Spaltenlage::verteile(int rest)
@@ -48,9 +44,8 @@ void Spaltenlage::verteile(int rest)
 void Spaltenlage::vorEntfernen(int spalte)
 {
     std::erase(folge_, spalte);
-    for (int& andere : folge_) {
+    for (int& andere : folge_)
         andere -= andere > spalte ? 1 : 0;
-    }
 }
 
 const Spaltenlage::Platz* Spaltenlage::platz(int spalte) const
@@ -71,23 +66,19 @@ int Spaltenlage::teilerBei(int x) const
     int nahe = -1;
     int vorige = -1;
     for (const Platz& platz : plaetze_) {
-        if (!spalten_.Item(platz.spalte).istTrenner()) {
+        if (!spalten_.Item(platz.spalte).istTrenner())
             vorige = platz.spalte;
-        }
-        if (vorige >= 0 && std::abs(x - platz.ende()) <= kTeilergriff) {
+        if (vorige >= 0 && std::abs(x - platz.ende()) <= kTeilergriff)
             nahe = vorige;
-        }
     }
     return nahe >= 0 && spalten_.Item(nahe).Resizable ? nahe : -1;
 }
 
 int Spaltenlage::einfuegestelle(int x) const
 {
-    for (const Platz& platz : plaetze_) {
-        if (!spalten_.Item(platz.spalte).istTrenner() && x < platz.x + platz.breite / 2) {
+    for (const Platz& platz : plaetze_)
+        if (!spalten_.Item(platz.spalte).istTrenner() && x < platz.x + platz.breite / 2)
             return platz.spalte;
-        }
-    }
     return -1;
 }
 
@@ -99,18 +90,15 @@ int Spaltenlage::einfuegemarke(int vorSpalte) const
 
 void Spaltenlage::verschiebe(int spalte, int vorSpalte)
 {
-    if (spalte == vorSpalte) {
+    if (spalte == vorSpalte)
         return;
-    }
     const auto istDatenspalte = [this](int eine) { return !spalten_.Item(eine).istTrenner(); };
     std::vector<int> daten;
     std::ranges::copy_if(folge_, std::back_inserter(daten), istDatenspalte);
     std::erase(daten, spalte);
     daten.insert(std::ranges::find(daten, vorSpalte), spalte);
     auto naechste = daten.begin();
-    for (int& platz : folge_) {
-        if (istDatenspalte(platz)) {
+    for (int& platz : folge_)
+        if (istDatenspalte(platz))
             platz = *naechste++;
-        }
-    }
 }

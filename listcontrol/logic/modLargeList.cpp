@@ -13,9 +13,8 @@ constexpr const char* kNichtGesetzt = "Konnte ListIndex nicht setzen.";
 
 template <class Liste> Liste& pruefe(Liste* liste, const char* quelle)
 {
-    if (liste == nullptr) {
+    if (liste == nullptr)
         throw ListenFehler(quelle, kKeineListe);
-    }
     return *liste;
 }
 
@@ -24,9 +23,8 @@ template <class Liste> Liste& pruefe(Liste* liste, const char* quelle)
 void AddItem(ListenModell* liste, const std::string& text)
 {
     constexpr const char* kQuelle = "mod_Listbox.AddItem";
-    if (!pruefe(liste, kQuelle).AddItem(text)) {
+    if (!pruefe(liste, kQuelle).AddItem(text))
         throw ListenFehler(kQuelle, kKeineListe);
-    }
 }
 
 void ClearList(ListenModell* liste)
@@ -44,9 +42,8 @@ std::string GetListItem(const ListenModell* liste, std::int32_t index)
 {
     constexpr const char* kQuelle = "mod_ListBox.GetListItem";
     const ListenModell& zeilen = pruefe(liste, kQuelle);
-    if (index < 0 || static_cast<std::size_t>(index) >= zeilen.ListCount()) {
+    if (index < 0 || static_cast<std::size_t>(index) >= zeilen.ListCount())
         throw ListenFehler(kQuelle, kAusserhalb);
-    }
     try {
         return zeilen.List(static_cast<std::size_t>(index));
     } catch (const std::exception&) { // a row made on request may fail in any way
@@ -57,7 +54,6 @@ std::string GetListItem(const ListenModell* liste, std::int32_t index)
 void SetListIndex(ListenModell* liste, std::int32_t index)
 {
     constexpr const char* kQuelle = "mod_Listbox.SetListIndex";
-    if (!pruefe(liste, kQuelle).SetListIndex(index) || index == ListenModell::kKeiner) {
+    if (!pruefe(liste, kQuelle).SetListIndex(index) || index == ListenModell::kKeiner)
         throw ListenFehler(kQuelle, kNichtGesetzt);
-    }
 }

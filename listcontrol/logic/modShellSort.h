@@ -16,17 +16,15 @@
 template <class Speicher> void shellSortiere(Speicher&& speicher, std::size_t anzahl)
 {
     std::size_t abstand = 1;
-    while (abstand <= anzahl) {
+    while (abstand <= anzahl)
         abstand = abstand * 3 + 1;
-    }
     while (abstand > 1) {
         abstand /= 3;
         for (std::size_t i = abstand; i < anzahl; ++i) {
             speicher.nimm(i);
             std::size_t platz = i;
-            for (; platz >= abstand && speicher.hinter(platz - abstand); platz -= abstand) {
+            for (; platz >= abstand && speicher.hinter(platz - abstand); platz -= abstand)
                 speicher.schiebe(platz, platz - abstand);
-            }
             speicher.setze(platz);
         }
     }
@@ -75,9 +73,8 @@ private:
 /// bytes. `vergleich(const void*, const void*)` gives 1 when the first is to stand behind the second, else 0 or -1.
 template <class Vergleich> void ShellSort(void* erstes, std::size_t anzahl, std::size_t groesse, Vergleich vergleich)
 {
-    if (anzahl > 1 && groesse > 0) {
+    if (anzahl > 1 && groesse > 0)
         shellSortiere(Rohspeicher<Vergleich>(erstes, groesse, vergleich), anzahl);
-    }
 }
 
 /// The same sort over an array of any type; `vergleich(const T&, const T&)` as above.

@@ -37,10 +37,9 @@ QString Zellmaler::anzeige(std::string_view text, TextAlign ausrichtung)
     const std::size_t anfang = ausrichtung == TextAlign::Left ? 0 : std::min(ende, text.find_first_not_of(kLeer));
     QString zeile = QString::fromUtf8(text.data() + anfang, static_cast<qsizetype>(ende - anfang));
     zeile.replace("\r\n", " ");
-    for (QChar& zeichen : zeile) {
+    for (QChar& zeichen : zeile)
         if (zeichen == '\n' || zeichen == '\r' || zeichen == '\t')
             zeichen = ' ';
-    }
     return zeile;
 }
 

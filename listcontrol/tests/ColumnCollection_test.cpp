@@ -18,9 +18,8 @@ Column spalte(std::string key, std::string titel = {})
 ColumnCollection mit(std::initializer_list<const char*> keys)
 {
     ColumnCollection spalten;
-    for (const char* key : keys) {
+    for (const char* key : keys)
         spalten.Add(spalte(key));
-    }
     return spalten;
 }
 

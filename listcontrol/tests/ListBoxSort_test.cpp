@@ -24,22 +24,17 @@ void sortiereNachVorschrift(Texte& feld, std::ptrdiff_t erster, std::ptrdiff_t l
     std::ptrdiff_t j = letzter;
     const std::string mitte = bei((erster + letzter) / 2);
     while (i <= j) {
-        while (bei(i) < mitte && i < letzter) {
+        while (bei(i) < mitte && i < letzter)
             ++i;
-        }
-        while (bei(j) > mitte && j > erster) {
+        while (bei(j) > mitte && j > erster)
             --j;
-        }
-        if (i <= j) {
+        if (i <= j)
             std::swap(bei(i++), bei(j--));
-        }
     }
-    if (erster < j) {
+    if (erster < j)
         sortiereNachVorschrift(feld, erster, j);
-    }
-    if (i < letzter) {
+    if (i < letzter)
         sortiereNachVorschrift(feld, i, letzter);
-    }
 }
 
 Texte zufaellige(std::size_t anzahl, std::mt19937& zufall)

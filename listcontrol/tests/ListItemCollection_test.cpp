@@ -18,18 +18,16 @@ using testing::ElementsAreArray;
 std::vector<std::string> spalte(const ListItemCollection& posten, int nummer = 0)
 {
     std::vector<std::string> texte;
-    for (int zeile = 0; zeile < posten.ItemCount(); ++zeile) {
+    for (int zeile = 0; zeile < posten.ItemCount(); ++zeile)
         texte.emplace_back(posten.Item(zeile).Text(nummer));
-    }
     return texte;
 }
 
 ListItemCollection mit(const std::vector<std::string>& texte, int spalten = 1)
 {
     ListItemCollection posten(spalten);
-    for (const std::string& text : texte) {
+    for (const std::string& text : texte)
         posten.AddItem(text);
-    }
     return posten;
 }
 
@@ -75,9 +73,8 @@ TEST(ListItemCollection, EinFalscherIndexIstFehler9)
 TEST(ListItemCollection, Die1001teZeileLaesstDieKapazitaetAuf1500Wachsen)
 {
     ListItemCollection posten(1);
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 1000; ++i)
         posten.AddItem("");
-    }
     EXPECT_EQ(posten.Capacity(), 1000);
     posten.AddItem("");
     EXPECT_EQ(posten.Capacity(), 1500);
@@ -90,9 +87,8 @@ TEST(ListItemCollection, WaechstJedesmalUmDieHaelfteGerundet)
     std::vector<int> stufen{posten.Capacity()};
     for (int i = 0; i < 6000; ++i) {
         posten.AddItem("");
-        if (posten.Capacity() != stufen.back()) {
+        if (posten.Capacity() != stufen.back())
             stufen.push_back(posten.Capacity());
-        }
     }
     EXPECT_THAT(stufen, ElementsAre(1000, 1500, 2250, 3375, 5062, 7593));
 }
@@ -102,9 +98,8 @@ TEST(ListItemCollection, LegtSichAufEineZeilenzahlFest)
     ListItemCollection posten(1);
     posten.PrepareForItems(20);
     EXPECT_EQ(posten.Capacity(), 20);
-    for (int i = 0; i < 21; ++i) {
+    for (int i = 0; i < 21; ++i)
         posten.AddItem("");
-    }
     EXPECT_EQ(posten.Capacity(), 30);
     posten.PrepareForItems(5);
     EXPECT_EQ(posten.Capacity(), 21);
@@ -115,9 +110,8 @@ TEST(ListItemCollection, WaechstAuchVonNichtsAus)
 {
     ListItemCollection posten(1);
     posten.PrepareForItems(0);
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
         posten.AddItem("");
-    }
     EXPECT_EQ(posten.ItemCount(), 4);
     EXPECT_GE(posten.Capacity(), 4);
 }
@@ -181,9 +175,8 @@ TEST(ListItemCollection, SortiertOhneAnsehenVonGrossUndKlein)
 TEST(ListItemCollection, SortiertGanzeZeilenNachEinerSpalte)
 {
     ListItemCollection posten(2);
-    for (const auto& [erster, zweiter] : std::vector<std::pair<const char*, const char*>>{{"a", "2"}, {"b", "1"}}) {
+    for (const auto& [erster, zweiter] : std::vector<std::pair<const char*, const char*>>{{"a", "2"}, {"b", "1"}})
         posten.Item(posten.AddItem(erster, zweiter)).setText(1, zweiter);
-    }
     posten.Sort(1, Sortierrichtung::Aufsteigend);
     EXPECT_THAT(spalte(posten), ElementsAre("b", "a"));
     EXPECT_EQ(posten.Item(0).Tag(), "1");
@@ -221,14 +214,12 @@ TEST(ListItemCollection, SortiertGenauWieDerShellsortMitSeinemVergleich)
             }
             const SortCallback vergleich{.spalte = 1, .richtung = richtung};
             std::vector<const ListItem*> folge;
-            for (const ListItem& einer : erwartet) {
+            for (const ListItem& einer : erwartet)
                 folge.push_back(&einer);
-            }
             ShellSort(folge, [&](const ListItem* links, const ListItem* rechts) { return vergleich(*links, *rechts); });
             std::vector<std::string> namen;
-            for (const ListItem* einer : folge) {
+            for (const ListItem* einer : folge)
                 namen.emplace_back(einer->Text(0));
-            }
             posten.Sort(1, richtung);
             EXPECT_THAT(spalte(posten), ElementsAreArray(namen)) << anzahl;
         }

@@ -18,10 +18,9 @@ protected:
     {
         const QImage ganzes = bild();
         int anzahl = 0;
-        for (int y = rechteck.top(); y <= rechteck.bottom(); ++y) {
+        for (int y = rechteck.top(); y <= rechteck.bottom(); ++y)
             for (int x = rechteck.left(); x <= rechteck.right(); ++x)
                 anzahl += ganzes.pixel(x, y) != ganzes.pixel(rechteck.topLeft()) ? 1 : 0;
-        }
         return anzahl;
     }
 

@@ -97,10 +97,9 @@ protected:
     std::vector<int> gewaehlte() const
     {
         std::vector<int> zeilen;
-        for (int zeile = 0; zeile < liste->ItemCount(); ++zeile) {
+        for (int zeile = 0; zeile < liste->ItemCount(); ++zeile)
             if (liste->ItemSelected(zeile))
                 zeilen.push_back(zeile);
-        }
         return zeilen;
     }
 

@@ -15,19 +15,16 @@ class Auswahl : public testing::Test {
 protected:
     Auswahl()
     {
-        for (const char* text : {"e", "d", "c", "b", "a"}) {
+        for (const char* text : {"e", "d", "c", "b", "a"})
             posten.AddItem(text);
-        }
     }
 
     std::vector<int> gewaehlte() const
     {
         std::vector<int> alle;
-        for (int zeile = 0; zeile < posten.ItemCount(); ++zeile) {
-            if (posten.Item(zeile).Selected()) {
+        for (int zeile = 0; zeile < posten.ItemCount(); ++zeile)
+            if (posten.Item(zeile).Selected())
                 alle.push_back(zeile);
-            }
-        }
         EXPECT_EQ(auswahl.SelCount(), static_cast<int>(alle.size()));
         return alle;
     }

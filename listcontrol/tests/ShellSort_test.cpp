@@ -37,9 +37,8 @@ std::vector<Markiert> zufaellige(std::size_t anzahl, int schluessel, std::mt1993
 {
     std::vector<Markiert> feld(anzahl);
     int marke = 0;
-    for (Markiert& element : feld) {
+    for (Markiert& element : feld)
         element = {static_cast<int>(zufall() % static_cast<unsigned>(schluessel)), marke++};
-    }
     return feld;
 }
 
@@ -47,16 +46,12 @@ std::vector<Markiert> zufaellige(std::size_t anzahl, int schluessel, std::mt1993
 void sortiereSchlicht(std::vector<Markiert>& feld)
 {
     std::vector<std::size_t> abstaende = {1};
-    while (abstaende.back() * 3 + 1 <= feld.size()) {
+    while (abstaende.back() * 3 + 1 <= feld.size())
         abstaende.push_back(abstaende.back() * 3 + 1);
-    }
     for (auto abstand = abstaende.rbegin(); abstand != abstaende.rend(); ++abstand) {
-        for (std::size_t i = *abstand; i < feld.size(); ++i) {
-            for (std::size_t k = i; k >= *abstand && feld[k - *abstand].schluessel > feld[k].schluessel;
-                 k -= *abstand) {
+        for (std::size_t i = *abstand; i < feld.size(); ++i)
+            for (std::size_t k = i; k >= *abstand && feld[k - *abstand].schluessel > feld[k].schluessel; k -= *abstand)
                 std::swap(feld[k], feld[k - *abstand]);
-            }
-        }
     }
 }
 
@@ -157,9 +152,8 @@ TEST(ShellSort, TexteWerdenNichtByteweiseKopiert)
 {
     std::mt19937 zufall(7);
     std::vector<std::string> feld(3000);
-    for (std::string& text : feld) {
+    for (std::string& text : feld)
         text.assign(zufall() % 60, static_cast<char>('a' + zufall() % 26));
-    }
     std::vector<std::string> erwartet = feld;
     std::ranges::sort(erwartet);
     ShellSort(feld, [](const std::string& l, const std::string& r) { return l > r ? 1 : 0; });

@@ -43,18 +43,16 @@ protected:
     std::vector<int> folge() const
     {
         std::vector<int> alle;
-        for (const Spaltenlage::Platz& platz : lage.plaetze()) {
+        for (const Spaltenlage::Platz& platz : lage.plaetze())
             alle.push_back(platz.spalte);
-        }
         return alle;
     }
 
     std::vector<int> breiten() const
     {
         std::vector<int> alle;
-        for (const Spaltenlage::Platz& platz : lage.plaetze()) {
+        for (const Spaltenlage::Platz& platz : lage.plaetze())
             alle.push_back(platz.breite);
-        }
         return alle;
     }
 

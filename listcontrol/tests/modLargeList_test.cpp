@@ -23,9 +23,8 @@ template <class Tue> std::string fehlerVon(Tue tue)
 TEST(modLargeList, UeberDieAlteGrenzeHinaus)
 {
     ListenModell liste;
-    for (int i = 0; i < 40'000; ++i) {
+    for (int i = 0; i < 40'000; ++i)
         AddItem(&liste, std::to_string(i));
-    }
     EXPECT_EQ(GetListCount(&liste), 40'000);
     EXPECT_EQ(GetListItem(&liste, 39'999), "39999");
     SetListIndex(&liste, 39'999);

@@ -1,6 +1,6 @@
 #include "reports/frame/Seitenablage.h"
-#include "testhilfen/Schreibhindernisse.h"
 #include "testhilfen/Pruefordner.h"
+#include "testhilfen/Schreibhindernisse.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

@@ -16,10 +16,9 @@ QString mitTrenner(const QString& pfad)
 void fuelleEinmal(const QDir& ziel, const QDir& paket)
 {
     const QStringList mitgebracht{"*.DAT", "*.dat", "lotto-hilfe.*"};
-    for (const QString& name : paket.entryList(mitgebracht, QDir::Files)) {
+    for (const QString& name : paket.entryList(mitgebracht, QDir::Files))
         if (!ziel.exists(name))
             QFile::copy(paket.filePath(name), ziel.filePath(name));
-    }
 }
 
 } // namespace

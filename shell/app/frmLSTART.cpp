@@ -244,11 +244,10 @@ void frmLSTART::mausUeber(QWidget* feld)
 {
     if (feld == wand_->knopf("Befehl13"))
         tippe();
-    if (feld != this) {
+    if (feld != this)
         Bildschirm::mausUeber(feld);
-    } else if (gewaehlteSpielart() != SpielartStart && umgebung().archiv.AnzahlZiehungen >= 1) {
+    else if (gewaehlteSpielart() != SpielartStart && umgebung().archiv.AnzahlZiehungen >= 1)
         setzeTitel(statuszeile());
-    }
 }
 
 void frmLSTART::tippe()

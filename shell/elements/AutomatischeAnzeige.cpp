@@ -36,10 +36,9 @@ void AutomatischeAnzeige::fuehre(Liste* liste, NachLoslassen nachLoslassen)
 
 void AutomatischeAnzeige::beginneVorn(const Liste* liste)
 {
-    for (Gefuehrt& gefuehrt : listen_) {
+    for (Gefuehrt& gefuehrt : listen_)
         if (gefuehrt.liste == liste)
             gefuehrt.zeile = 0;
-    }
 }
 
 void AutomatischeAnzeige::schalte()

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shell/logic/ListenModell.h"
 #include "shell/elements/Bloecke.h"
 #include "shell/elements/Umgebung.h"
+#include "shell/logic/ListenModell.h"
 
 #include <QWidget>
 

@@ -82,10 +82,9 @@ Bildschirm* BildschirmVerzeichnis::geladen(const QString& name) const
 std::vector<Bildschirm*> BildschirmVerzeichnis::geladene() const
 {
     std::vector<Bildschirm*> alle;
-    for (const Eintrag& eintrag : eintraege_) {
+    for (const Eintrag& eintrag : eintraege_)
         if (eintrag.geladen)
             alle.push_back(eintrag.geladen.get());
-    }
     return alle;
 }
 
@@ -122,9 +121,8 @@ void BildschirmVerzeichnis::entlade(Bildschirm& bildschirm)
 void BildschirmVerzeichnis::entladeAlle()
 {
     for (int runde = 0; runde < 2; ++runde) {
-        for (Bildschirm* bildschirm : geladene()) {
+        for (Bildschirm* bildschirm : geladene())
             if (geladen(bildschirm->name()) == bildschirm) // else another one has closed it
                 bildschirm->close();
-        }
     }
 }

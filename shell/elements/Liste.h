@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/logic/ListenModell.h"
 #include "shell/elements/Zeilenansicht.h"
+#include "shell/logic/ListenModell.h"
 
 /// The list box: fixed pitch text rows, stored and sorted by their own text, or made on demand. Screens fill the
 /// model; the view follows by itself.

@@ -22,9 +22,8 @@ QString SpezialOrdner(int csidl)
         {0x28, Ort::HomeLocation},
         {0x2f, Ort::TempLocation},
     }};
-    for (const auto& [nummer, ort] : kOrte) {
+    for (const auto& [nummer, ort] : kOrte)
         if (nummer == csidl)
             return Ort::writableLocation(ort);
-    }
     return {};
 }

@@ -40,18 +40,16 @@ public:
     Lesedatei& operator=(const Lesedatei&) = delete;
     ~Lesedatei()
     {
-        if (nummer_ >= 0) {
+        if (nummer_ >= 0)
             ::close(nummer_);
-        }
     }
 
     /// The length that the file has now; nothing if it is no regular file.
     std::optional<std::size_t> laenge() const
     {
         struct stat zustand {};
-        if (nummer_ < 0 || ::fstat(nummer_, &zustand) != 0 || !S_ISREG(zustand.st_mode)) {
+        if (nummer_ < 0 || ::fstat(nummer_, &zustand) != 0 || !S_ISREG(zustand.st_mode))
             return std::nullopt;
-        }
         return static_cast<std::size_t>(zustand.st_size);
     }
 
@@ -76,9 +74,8 @@ private:
 
 AtomareDatei::AtomareDatei(const fs::path& ziel, Schreibschutz schutz) : rechte_(kRechteNeu)
 {
-    if (oeffneZiel(ziel, schutz) && oeffneVorlaeufige()) {
+    if (oeffneZiel(ziel, schutz) && oeffneVorlaeufige())
         puffer_.reserve(kPuffer);
-    }
 }
 
 AtomareDatei::~AtomareDatei()
@@ -90,19 +87,15 @@ bool AtomareDatei::oeffneZiel(const fs::path& ziel, Schreibschutz schutz)
 {
     std::error_code fehler;
     ziel_ = fs::is_symlink(ziel, fehler) ? fs::weakly_canonical(ziel, fehler) : ziel;
-    if (fehler && fehler != std::errc::no_such_file_or_directory) {
+    if (fehler && fehler != std::errc::no_such_file_or_directory)
         return scheitere(fehler.value());
-    }
     struct stat zustand {};
-    if (::stat(ziel_.c_str(), &zustand) != 0) {
+    if (::stat(ziel_.c_str(), &zustand) != 0)
         return errno == ENOENT || scheitere(errno);
-    }
-    if (!S_ISREG(zustand.st_mode)) {
+    if (!S_ISREG(zustand.st_mode))
         return scheitere(S_ISDIR(zustand.st_mode) ? EISDIR : EINVAL);
-    }
-    if ((zustand.st_mode & S_IWUSR) == 0 && schutz == Schreibschutz::Achten) {
+    if ((zustand.st_mode & S_IWUSR) == 0 && schutz == Schreibschutz::Achten)
         return scheitere(EACCES);
-    }
     rechte_ = (zustand.st_mode & kAlleRechte) | S_IWUSR;
     ersetzt_ = true;
     return true;
@@ -118,18 +111,16 @@ bool AtomareDatei::oeffneVorlaeufige()
             vorlaeufige_ = pfad;
             return !ersetzt_ || ::fchmod(datei_, rechte_) == 0 || scheitere(errno);
         }
-        if (errno != EEXIST) {
+        if (errno != EEXIST)
             break;
-        }
     }
     return scheitere(errno);
 }
 
 bool AtomareDatei::schreibe(std::string_view bytes)
 {
-    if (datei_ < 0) {
+    if (datei_ < 0)
         return false;
-    }
     puffer_.append(bytes);
     return puffer_.size() < kPuffer || leere();
 }
@@ -139,11 +130,10 @@ bool AtomareDatei::leere()
     std::string_view rest = puffer_;
     while (!rest.empty()) {
         const ssize_t geschrieben = ::write(datei_, rest.data(), rest.size());
-        if (geschrieben >= 0) {
+        if (geschrieben >= 0)
             rest.remove_prefix(static_cast<std::size_t>(geschrieben));
-        } else if (errno != EINTR) {
+        else if (errno != EINTR)
             return scheitere(errno);
-        }
     }
     puffer_.clear();
     return true;
@@ -151,12 +141,10 @@ bool AtomareDatei::leere()
 
 DateiErgebnis AtomareDatei::uebernimm()
 {
-    if (datei_ < 0) {
+    if (datei_ < 0)
         return ergebnis_.gut() ? fehlschlag(EBADF) : ergebnis_;
-    }
-    if (!leere()) {
+    if (!leere())
         return ergebnis_;
-    }
     const bool gesichert = ::fsync(datei_) == 0;
     const int sicherungsfehler = errno;
     const bool geschlossen = ::close(datei_) == 0;
@@ -194,9 +182,8 @@ void AtomareDatei::raeumeAuf()
 DateiErgebnis schreibeDatei(const fs::path& ziel, std::string_view bytes, Schreibschutz schutz)
 {
     AtomareDatei datei(ziel, schutz);
-    if (!datei.schreibe(bytes)) {
+    if (!datei.schreibe(bytes))
         return datei.ergebnis();
-    }
     return datei.uebernimm();
 }
 
@@ -204,9 +191,8 @@ std::optional<std::string> leseDatei(const fs::path& datei, std::size_t hoechste
 {
     const Lesedatei offen(datei);
     const std::optional<std::size_t> laenge = offen.laenge();
-    if (!laenge || *laenge > hoechstens) {
+    if (!laenge || *laenge > hoechstens)
         return std::nullopt;
-    }
     std::string bytes;
     bytes.reserve(*laenge + 1);
     ssize_t gelesen = 0;
@@ -215,9 +201,8 @@ std::optional<std::string> leseDatei(const fs::path& datei, std::size_t hoechste
         const std::size_t block = bytes.size() < *laenge ? *laenge - bytes.size() : 1;
         gelesen = offen.lies(bytes, block);
     } while (gelesen > 0 && bytes.size() <= hoechstens);
-    if (gelesen < 0 || bytes.size() > hoechstens) {
+    if (gelesen < 0 || bytes.size() > hoechstens)
         return std::nullopt;
-    }
     return bytes;
 }
 
@@ -225,17 +210,15 @@ fs::path findeDatei(const fs::path& ordner, std::string_view name)
 {
     fs::path genau = ordner / fs::path(name);
     std::error_code fehler;
-    if (fs::exists(genau, fehler)) {
+    if (fs::exists(genau, fehler))
         return genau;
-    }
     fs::path gefunden;
     const std::string gesucht = genau.filename().string();
     fs::directory_iterator eintrag(genau.parent_path(), fehler);
     while (!fehler && eintrag != fs::directory_iterator()) {
         const fs::path& pfad = eintrag->path();
-        if (gleichOhneGrossKlein(pfad.filename().string(), gesucht) && (gefunden.empty() || pfad < gefunden)) {
+        if (gleichOhneGrossKlein(pfad.filename().string(), gesucht) && (gefunden.empty() || pfad < gefunden))
             gefunden = pfad;
-        }
         eintrag.increment(fehler);
     }
     return gefunden.empty() ? genau : gefunden;
@@ -243,8 +226,7 @@ fs::path findeDatei(const fs::path& ordner, std::string_view name)
 
 std::string mitTrenner(std::string pfad)
 {
-    if (!pfad.empty() && pfad.back() != '/' && pfad.back() != fs::path::preferred_separator) {
+    if (!pfad.empty() && pfad.back() != '/' && pfad.back() != fs::path::preferred_separator)
         pfad += fs::path::preferred_separator;
-    }
     return pfad;
 }

@@ -27,18 +27,15 @@ public:
     /// `betrag` is finite and not negative.
     explicit Dezimalzahl(double betrag)
     {
-        if (betrag == 0) {
+        if (betrag == 0)
             return;
-        }
         std::array<char, 32> text{};
         char* const ende =
             std::to_chars(text.data(), text.data() + text.size(), betrag, std::chars_format::scientific).ptr;
         const char* const e = std::find(text.data(), ende, 'e');
-        for (const char* zeichen = text.data(); zeichen != e; ++zeichen) {
-            if (*zeichen != '.') {
+        for (const char* zeichen = text.data(); zeichen != e; ++zeichen)
+            if (*zeichen != '.')
                 feld_[static_cast<std::size_t>(++anzahl_)] = *zeichen;
-            }
-        }
         int hochzahl = 0;
         std::from_chars(e[1] == '+' ? e + 2 : e + 1, ende, hochzahl);
         vorn_ = hochzahl + 1;
@@ -53,16 +50,13 @@ public:
         if (behalten < anzahl_) {
             const bool auf = behalten >= 0 && ziffern()[behalten] >= '5';
             anzahl_ = std::max<std::ptrdiff_t>(behalten, 0);
-            if (auf) {
+            if (auf)
                 zaehleHoch();
-            }
         }
-        while (anzahl_ > 0 && ziffern()[anzahl_ - 1] == '0') {
+        while (anzahl_ > 0 && ziffern()[anzahl_ - 1] == '0')
             --anzahl_;
-        }
-        if (anzahl_ == 0) {
+        if (anzahl_ == 0)
             vorn_ = 0;
-        }
     }
 
     bool istNull() const { return anzahl_ == 0; }
@@ -83,9 +77,8 @@ private:
     void zaehleHoch()
     {
         std::ptrdiff_t stelle = anzahl_ - 1;
-        while (stelle >= 0 && ziffern()[stelle] == '9') {
+        while (stelle >= 0 && ziffern()[stelle] == '9')
             ziffern()[stelle--] = '0';
-        }
         if (stelle >= 0) {
             ++ziffern()[stelle];
             return;
@@ -116,12 +109,10 @@ template <class Jedes> std::size_t durchlaufe(std::string_view maske, Jedes jede
             continue;
         }
         const bool maskiert = !inAnfuehrung && zeichen == '\\' && i < maske.size();
-        if (maskiert) {
+        if (maskiert)
             zeichen = maske[i++];
-        }
-        if (!jedes(zeichen, inAnfuehrung || maskiert)) {
+        if (!jedes(zeichen, inAnfuehrung || maskiert))
             return anfang;
-        }
     }
     return maske.size();
 }
@@ -188,9 +179,8 @@ void schreibeVorn(std::string& ziel, const Dezimalzahl& zahl, const Zahlmaske& m
     const auto bis = [&](std::ptrdiff_t von, std::ptrdiff_t ende) {
         for (std::ptrdiff_t stelle = von; stelle >= ende; --stelle) {
             ziel += zahl.ziffer(stelle);
-            if (maske.gruppen && stelle > 0 && stelle % 3 == 0) {
+            if (maske.gruppen && stelle > 0 && stelle % 3 == 0)
                 ziel += kGruppenzeichen;
-            }
         }
     };
     std::ptrdiff_t platz = maske.plaetzeVorn;
@@ -204,9 +194,8 @@ void schreibeVorn(std::string& ziel, const Dezimalzahl& zahl, const Zahlmaske& m
         }
         return true;
     });
-    if (maske.plaetzeVorn == 0) {
+    if (maske.plaetzeVorn == 0)
         bis(stellen - 1, 0);
-    }
 }
 
 void schreibeHinten(std::string& ziel, const Dezimalzahl& zahl, const Zahlmaske& maske)
@@ -214,11 +203,10 @@ void schreibeHinten(std::string& ziel, const Dezimalzahl& zahl, const Zahlmaske&
     const auto stellen = std::max(zahl.stellenHinten(), maske.nullenHinten);
     std::ptrdiff_t platz = 0;
     durchlaufe(maske.hinten, [&](char zeichen, bool woertlich) {
-        if (!istPlatz(zeichen, woertlich)) {
+        if (!istPlatz(zeichen, woertlich))
             ziel += zeichen;
-        } else if (platz++ < stellen) {
+        else if (platz++ < stellen)
             ziel += zahl.ziffer(-platz);
-        }
         return true;
     });
 }
@@ -226,18 +214,15 @@ void schreibeHinten(std::string& ziel, const Dezimalzahl& zahl, const Zahlmaske&
 std::string formatiere(bool negativ, Dezimalzahl zahl, std::string_view text)
 {
     const Zahlmaske maske(text);
-    if (maske.prozent) {
+    if (maske.prozent)
         zahl.malHundert();
-    }
     zahl.runde(maske.plaetzeHinten);
     std::string ergebnis;
-    if (negativ && !zahl.istNull()) {
+    if (negativ && !zahl.istNull())
         ergebnis += '-';
-    }
     schreibeVorn(ergebnis, zahl, maske);
-    if (maske.dezimal) {
+    if (maske.dezimal)
         ergebnis += kDezimalzeichen;
-    }
     schreibeHinten(ergebnis, zahl, maske);
     return ergebnis;
 }
@@ -261,11 +246,10 @@ std::string fuelle(std::string_view text, std::string_view maske)
     const std::size_t leer = plaetze > laenge ? plaetze - laenge : 0;
     std::string ergebnis;
     ergebnis.reserve(leer + text.size());
-    if (maske.find('!') == std::string_view::npos) {
+    if (maske.find('!') == std::string_view::npos)
         ergebnis.append(leer, ' ').append(text);
-    } else {
+    else
         ergebnis.append(text).append(leer, ' ');
-    }
     return ergebnis;
 }
 
@@ -287,9 +271,8 @@ std::optional<double> liesZahl(std::string_view text)
     std::ranges::replace(zahl, kDezimalzeichen, '.');
     double wert = 0;
     const auto [ende, fehler] = std::from_chars(zahl.data(), zahl.data() + zahl.size(), wert, std::chars_format::fixed);
-    if (fehler != std::errc{} || ende != zahl.data() + zahl.size()) {
+    if (fehler != std::errc{} || ende != zahl.data() + zahl.size())
         return std::nullopt;
-    }
     return wert;
 }
 
@@ -312,14 +295,12 @@ std::string formatiereEinfach(bool negativ, std::uint64_t betrag, std::string_vi
     std::size_t anfang = feld.size();
     const bool vorzeichen = negativ && betrag != 0;
     for (std::ptrdiff_t stelle = 0; betrag != 0 || stelle < nullen; ++stelle, betrag /= 10) {
-        if (gruppen && stelle > 0 && stelle % 3 == 0) {
+        if (gruppen && stelle > 0 && stelle % 3 == 0)
             feld[--anfang] = kGruppenzeichen;
-        }
         feld[--anfang] = static_cast<char>('0' + betrag % 10);
     }
-    if (vorzeichen) {
+    if (vorzeichen)
         feld[--anfang] = '-';
-    }
     return {feld.data() + anfang, feld.size() - anfang};
 }
 
@@ -327,31 +308,26 @@ std::string formatiereEinfach(bool negativ, std::uint64_t betrag, std::string_vi
 
 std::string FormatGanzzahl(bool negativ, std::uint64_t betrag, std::string_view maske)
 {
-    if (maske.empty() || istTextmaske(maske)) {
+    if (maske.empty() || istTextmaske(maske))
         return fuelle(formatiereEinfach(negativ, betrag, "0"), maske);
-    }
-    if (istEinfach(maske)) {
+    if (istEinfach(maske))
         return formatiereEinfach(negativ, betrag, maske);
-    }
     return formatiere(negativ, Dezimalzahl(betrag), maske);
 }
 
 std::string Format(double wert, std::string_view maske)
 {
-    if (!std::isfinite(wert)) {
+    if (!std::isfinite(wert))
         return {};
-    }
-    if (maske.empty() || istTextmaske(maske)) {
+    if (maske.empty() || istTextmaske(maske))
         return fuelle(zahltext(wert), maske);
-    }
     return formatiere(std::signbit(wert), Dezimalzahl(std::abs(wert)), maske);
 }
 
 std::string Format(std::string_view text, std::string_view maske)
 {
-    if (maske.empty() || istTextmaske(maske)) {
+    if (maske.empty() || istTextmaske(maske))
         return fuelle(text, maske);
-    }
     const std::optional<double> zahl = liesZahl(text);
     return zahl ? Format(*zahl, maske) : std::string(text);
 }
@@ -360,8 +336,7 @@ std::string Dezimaltext(double wert, int stellen)
 {
     constexpr std::string_view kMaske = "0.###############";
     std::string text = Format(wert, kMaske.substr(0, 2 + static_cast<std::size_t>(std::clamp(stellen, 0, 15))));
-    if (text.ends_with(kDezimalzeichen)) {
+    if (text.ends_with(kDezimalzeichen))
         text.pop_back();
-    }
     return text;
 }

@@ -20,7 +20,8 @@ std::string FormatGanzzahl(bool negativ, std::uint64_t betrag, std::string_view 
 /// mask on the right. Places count characters, not bytes; a longer value widens the field. The empty mask gives the
 /// value as plain text.
 template <std::integral Ganzzahl>
-requires(!std::same_as<Ganzzahl, bool>) std::string Format(Ganzzahl wert, std::string_view maske)
+    requires(!std::same_as<Ganzzahl, bool>)
+std::string Format(Ganzzahl wert, std::string_view maske)
 {
     const bool negativ = wert < Ganzzahl{0};
     const auto betrag = static_cast<std::uint64_t>(wert);

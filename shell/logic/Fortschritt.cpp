@@ -28,11 +28,10 @@ bool Takt::blick(std::uint64_t erledigt)
     }
     const Zeit jetzt = zeit_();
     const auto seitBlick = jetzt - geblickt_;
-    if (seitBlick < kZuOft) {
+    if (seitBlick < kZuOft)
         schritte_ = std::min(schritte_ * 2, kMeisteSchritte);
-    } else if (seitBlick > kZuSelten) {
+    else if (seitBlick > kZuSelten)
         schritte_ = std::max<std::int64_t>(schritte_ * kZuOft / seitBlick, 1);
-    }
     geblickt_ = jetzt;
     bisBlick_ = schritte_;
     return jetzt - gemeldet_ < kAbstand ? laeuft_ : melde(erledigt);

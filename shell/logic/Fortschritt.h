@@ -24,9 +24,8 @@ public:
     /// One step done, `erledigt` in all. False once the run is to stop.
     bool schritt(std::uint64_t erledigt)
     {
-        if (--bisBlick_ > 0) {
+        if (--bisBlick_ > 0)
             return laeuft_;
-        }
         return blick(erledigt);
     }
 

@@ -28,9 +28,8 @@ Zeile liesZeile(std::string_view inhalt, std::size_t anfang)
     const std::size_t umbruch = inhalt.find('\n', anfang);
     const std::size_t ende = umbruch == std::string_view::npos ? inhalt.size() : umbruch + 1;
     std::string_view text = inhalt.substr(anfang, ende - anfang);
-    while (text.ends_with('\n') || text.ends_with('\r')) {
+    while (text.ends_with('\n') || text.ends_with('\r'))
         text.remove_suffix(1);
-    }
     return {trim(text, kLeer), anfang, ende};
 }
 
@@ -67,9 +66,8 @@ Fundstelle suche(std::string_view inhalt, std::string_view abschnitt, std::strin
             fund.einfuegen = zeile.ende;
             continue;
         }
-        if (istAbschnitt(zeile.text)) {
+        if (istAbschnitt(zeile.text))
             break;
-        }
         const std::size_t gleichheit = zeile.text.find('=');
         const bool eintrag = gleichheit != std::string_view::npos && !zeile.text.starts_with(';');
         if (eintrag && gleich(zeile.text.substr(0, gleichheit), schluessel)) {
@@ -114,9 +112,8 @@ std::string alsWert(std::string_view wert)
     std::string text = nachWindows1252(wert);
     std::ranges::replace_if(
         text, [](char zeichen) { return zeichen == '\r' || zeichen == '\n' || zeichen == '\0'; }, ' ');
-    if (trim(text, kLeer) != text || ohneAnfuehrung(text) != text) {
+    if (trim(text, kLeer) != text || ohneAnfuehrung(text) != text)
         text = '"' + text + '"';
-    }
     return text;
 }
 
@@ -124,17 +121,15 @@ std::string alsWert(std::string_view wert)
 std::optional<std::string> liesInhalt(const std::filesystem::path& datei)
 {
     std::error_code fehler;
-    if (std::filesystem::status(datei, fehler).type() == std::filesystem::file_type::not_found) {
+    if (std::filesystem::status(datei, fehler).type() == std::filesystem::file_type::not_found)
         return std::string();
-    }
     return leseDatei(datei, kGroessteDatei);
 }
 
 std::string mitZeilenende(std::string inhalt)
 {
-    if (!inhalt.empty() && !inhalt.ends_with('\n')) {
+    if (!inhalt.empty() && !inhalt.ends_with('\n'))
         inhalt += kZeilenende;
-    }
     return inhalt;
 }
 
@@ -144,9 +139,8 @@ std::string IniLesen(const std::filesystem::path& datei, std::string_view abschn
 {
     const std::string inhalt = liesInhalt(datei).value_or("");
     const Fundstelle fund = suche(inhalt, abschnitt, schluessel);
-    if (!fund.zeile) {
+    if (!fund.zeile)
         return {};
-    }
     const std::string_view wert = fund.zeile->text.substr(fund.zeile->text.find('=') + 1);
     return ausWindows1252(ohneAnfuehrung(trim(wert, kLeer)).substr(0, kLaengsterWert));
 }
@@ -155,9 +149,8 @@ bool IniSchreiben(const std::filesystem::path& datei, std::string_view abschnitt
                   std::string_view wert)
 {
     std::optional<std::string> inhalt = liesInhalt(datei);
-    if (!inhalt || !istAbschnittsname(abschnitt) || !istSchluessel(schluessel)) {
+    if (!inhalt || !istAbschnittsname(abschnitt) || !istSchluessel(schluessel))
         return false;
-    }
     std::string neu = nachWindows1252(schluessel) + "=" + alsWert(wert);
     neu += kZeilenende;
     const Fundstelle fund = suche(*inhalt, abschnitt, schluessel);

@@ -4,9 +4,8 @@
 
 void ListenModell::melde(Aenderung aenderung) const
 {
-    if (meldung_) {
+    if (meldung_)
         meldung_(aenderung);
-    }
 }
 
 void ListenModell::leere()
@@ -22,12 +21,10 @@ void ListenModell::leere()
 
 bool ListenModell::AddItem(std::string text)
 {
-    if (wirdAufAnfrageGemacht()) {
+    if (wirdAufAnfrageGemacht())
         return false;
-    }
-    if (Sorted() && geordnete_ == zeilen_.size() && (zeilen_.empty() || zeilen_.back() <= text)) {
+    if (Sorted() && geordnete_ == zeilen_.size() && (zeilen_.empty() || zeilen_.back() <= text))
         ++geordnete_; // stands right already
-    }
     zeilen_.push_back(std::move(text));
     melde(Aenderung::Zeilen);
     return true;
@@ -35,18 +32,15 @@ bool ListenModell::AddItem(std::string text)
 
 bool ListenModell::AddItem(std::string text, std::size_t index)
 {
-    if (wirdAufAnfrageGemacht() || index > zeilen_.size()) {
+    if (wirdAufAnfrageGemacht() || index > zeilen_.size())
         return false;
-    }
-    if (Sorted() || index == zeilen_.size()) {
+    if (Sorted() || index == zeilen_.size())
         return AddItem(std::move(text));
-    }
     const auto stelle = static_cast<std::ptrdiff_t>(index);
     zeilen_.insert(zeilen_.begin() + stelle, std::move(text));
     index_ += index_ >= stelle ? 1 : 0;
-    if (index < gewaehlte_.size()) {
+    if (index < gewaehlte_.size())
         gewaehlte_.insert(gewaehlte_.begin() + stelle, false);
-    }
     melde(Aenderung::Zeilen);
     return true;
 }
@@ -74,16 +68,14 @@ void ListenModell::Clear()
 
 bool ListenModell::RemoveItem(std::size_t index)
 {
-    if (index >= zeilen_.size()) {
+    if (index >= zeilen_.size())
         return false;
-    }
     ordneEin();
     const auto stelle = static_cast<std::ptrdiff_t>(index);
     zeilen_.erase(zeilen_.begin() + stelle);
     geordnete_ = std::min(geordnete_, zeilen_.size());
-    if (index_ == stelle) {
+    if (index_ == stelle)
         index_ = kKeiner;
-    }
     index_ -= index_ > stelle ? 1 : 0;
     if (index < gewaehlte_.size()) {
         anzahlGewaehlte_ -= std::size_t{gewaehlte_[index]};
@@ -100,9 +92,8 @@ std::size_t ListenModell::ListCount() const
 
 std::string ListenModell::List(std::size_t index) const
 {
-    if (index >= ListCount()) {
+    if (index >= ListCount())
         return {};
-    }
     return macher_ ? macher_(index) : zeilen()[index];
 }
 
@@ -120,9 +111,8 @@ std::ptrdiff_t ListenModell::ListIndex() const
 
 bool ListenModell::SetListIndex(std::ptrdiff_t index)
 {
-    if (index < kKeiner || index >= static_cast<std::ptrdiff_t>(ListCount())) {
+    if (index < kKeiner || index >= static_cast<std::ptrdiff_t>(ListCount()))
         return false;
-    }
     ordneEin();
     if (index_ != index) {
         index_ = index;
@@ -139,18 +129,14 @@ bool ListenModell::Selected(std::size_t index) const
 
 bool ListenModell::SetSelected(std::size_t index, bool gewaehlt)
 {
-    if (index >= ListCount()) {
+    if (index >= ListCount())
         return false;
-    }
-    if (Selected(index) == gewaehlt) {
+    if (Selected(index) == gewaehlt)
         return true;
-    }
-    if (!MultiSelect()) {
+    if (!MultiSelect())
         return SetListIndex(gewaehlt ? static_cast<std::ptrdiff_t>(index) : kKeiner);
-    }
-    if (index >= gewaehlte_.size()) {
+    if (index >= gewaehlte_.size())
         gewaehlte_.resize(ListCount());
-    }
     gewaehlte_[index] = gewaehlt;
     anzahlGewaehlte_ = gewaehlt ? anzahlGewaehlte_ + 1 : anzahlGewaehlte_ - 1;
     melde(Aenderung::Auswahl);
@@ -165,25 +151,21 @@ std::size_t ListenModell::SelCount() const
 std::vector<std::size_t> ListenModell::ausgewaehlte() const
 {
     ordneEin();
-    if (!MultiSelect()) {
+    if (!MultiSelect())
         return index_ >= 0 ? std::vector{static_cast<std::size_t>(index_)} : std::vector<std::size_t>{};
-    }
     std::vector<std::size_t> ergebnis;
     ergebnis.reserve(anzahlGewaehlte_);
-    for (std::size_t i = 0; ergebnis.size() < anzahlGewaehlte_; ++i) {
-        if (gewaehlte_[i]) {
+    for (std::size_t i = 0; ergebnis.size() < anzahlGewaehlte_; ++i)
+        if (gewaehlte_[i])
             ergebnis.push_back(i);
-        }
-    }
     return ergebnis;
 }
 
 /// Merges the new rows of a sorted list into the rows that are in order already.
 void ListenModell::ordneEin() const
 {
-    if (!Sorted() || geordnete_ == zeilen_.size()) {
+    if (!Sorted() || geordnete_ == zeilen_.size())
         return;
-    }
     const auto neue = zeilen_.begin() + static_cast<std::ptrdiff_t>(geordnete_);
     std::sort(neue, zeilen_.end()); // equal rows cannot be told apart
     rueckeAuswahl();
@@ -194,23 +176,19 @@ void ListenModell::ordneEin() const
 /// Moves the choice to where the rows in order will stand once the new ones are among them.
 void ListenModell::rueckeAuswahl() const
 {
-    if (index_ == kKeiner && anzahlGewaehlte_ == 0) {
+    if (index_ == kKeiner && anzahlGewaehlte_ == 0)
         return;
-    }
     std::vector<bool> gerueckte(gewaehlte_.empty() ? 0 : zeilen_.size());
     std::ptrdiff_t geruecktIndex = kKeiner;
     std::size_t davor = geordnete_;
     for (std::size_t i = 0; i < geordnete_; ++i) {
-        while (davor < zeilen_.size() && zeilen_[davor] < zeilen_[i]) {
+        while (davor < zeilen_.size() && zeilen_[davor] < zeilen_[i])
             ++davor;
-        }
         const std::size_t ziel = i + davor - geordnete_;
-        if (istGewaehlt(i)) {
+        if (istGewaehlt(i))
             gerueckte[ziel] = true;
-        }
-        if (index_ == static_cast<std::ptrdiff_t>(i)) {
+        if (index_ == static_cast<std::ptrdiff_t>(i))
             geruecktIndex = static_cast<std::ptrdiff_t>(ziel);
-        }
     }
     gewaehlte_ = std::move(gerueckte);
     index_ = geruecktIndex;

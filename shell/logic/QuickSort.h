@@ -32,15 +32,12 @@ void QuickSort(std::vector<T>& feld, std::optional<std::ptrdiff_t> unten = {}, s
         std::ptrdiff_t j = rechts;
         const T mitte = bei(gerundeteMitte(i, j));
         while (i <= j) {
-            while (bei(i) < mitte) {
+            while (bei(i) < mitte)
                 ++i;
-            }
-            while (mitte < bei(j)) {
+            while (mitte < bei(j))
                 --j;
-            }
-            if (i <= j) {
+            if (i <= j)
                 std::swap(bei(i++), bei(j--));
-            }
         }
         // The two parts do not touch each other, so their order is free: the call takes the shorter one, which keeps
         // the depth below the logarithm of the length.

@@ -12,9 +12,8 @@ constexpr unsigned char kGrossKlein = 0x20; ///< the distance between the cases,
 char wechsle(char davor, char zeichen, unsigned char ab)
 {
     const auto byte = static_cast<unsigned char>(zeichen);
-    if (davor != kLatinVorbyte) {
+    if (davor != kLatinVorbyte)
         return byte >= ab && byte < ab + 26 ? static_cast<char>(byte ^ kGrossKlein) : zeichen;
-    }
     const unsigned ersteLatin = ab + 0x3FU;            // C3 80 "À" or C3 A0 "à"
     const unsigned keinBuchstabe = ersteLatin + 0x17U; // C3 97 "×" or C3 B7 "÷"
     const bool buchstabe = byte >= ersteLatin && byte < ersteLatin + 0x1FU && byte != keinBuchstabe;
@@ -30,9 +29,8 @@ unsigned char klein(std::string_view text, std::size_t i)
 std::string inAndererSchreibung(std::string_view text, unsigned char ab)
 {
     std::string ergebnis(text);
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    for (std::size_t i = 0; i < text.size(); ++i)
         ergebnis[i] = wechsle(i > 0 ? text[i - 1] : '\0', text[i], ab);
-    }
     return ergebnis;
 }
 
@@ -46,9 +44,8 @@ std::size_t ruecke(std::string_view text, std::size_t ab, std::size_t anzahl)
 {
     while (anzahl > 0 && ab < text.size()) {
         ++ab;
-        while (ab < text.size() && istFolgebyte(text[ab])) {
+        while (ab < text.size() && istFolgebyte(text[ab]))
             ++ab;
-        }
         --anzahl;
     }
     return ab;
@@ -72,16 +69,13 @@ std::string& LeerzeichenKuerzen(std::string& text)
 
 int ZaehleVorkommen(std::string_view text, std::string_view suche, Vergleich vergleich)
 {
-    if (suche.empty()) {
+    if (suche.empty())
         return -1;
-    }
-    if (vergleich == Vergleich::Text) {
+    if (vergleich == Vergleich::Text)
         return ZaehleVorkommen(kleinbuchstaben(text), kleinbuchstaben(suche), Vergleich::Binaer);
-    }
     int anzahl = 0;
-    for (std::size_t ort = text.find(suche); ort != std::string_view::npos; ort = text.find(suche, ort + 1)) {
+    for (std::size_t ort = text.find(suche); ort != std::string_view::npos; ort = text.find(suche, ort + 1))
         ++anzahl;
-    }
     return anzahl;
 }
 
@@ -89,9 +83,8 @@ std::int32_t BinaerNachLong(std::string_view text)
 {
     constexpr std::size_t kStellen = 31;
     std::int32_t wert = 0;
-    for (const char ziffer : text.substr(text.size() - std::min(text.size(), kStellen))) {
+    for (const char ziffer : text.substr(text.size() - std::min(text.size(), kStellen)))
         wert = wert * 2 + (ziffer >= '1' && ziffer <= '9' ? 1 : 0);
-    }
     return wert;
 }
 
@@ -116,9 +109,8 @@ int vergleicheText(std::string_view links, std::string_view rechts)
     for (std::size_t i = 0; i < gemeinsam; ++i) {
         const unsigned char l = klein(links, i);
         const unsigned char r = klein(rechts, i);
-        if (l != r) {
+        if (l != r)
             return l < r ? -1 : 1;
-        }
     }
     return links.size() == rechts.size() ? 0 : (links.size() < rechts.size() ? -1 : 1);
 }
@@ -138,15 +130,13 @@ std::string_view trim(std::string_view text, std::string_view zeichen)
 std::vector<std::string> teile(std::string_view text, std::string_view trenner)
 {
     std::vector<std::string> ergebnis;
-    if (text.empty()) {
+    if (text.empty())
         return ergebnis;
-    }
     std::size_t anfang = 0;
     while (!trenner.empty()) {
         const std::size_t ende = text.find(trenner, anfang);
-        if (ende == std::string_view::npos) {
+        if (ende == std::string_view::npos)
             break;
-        }
         ergebnis.emplace_back(text.substr(anfang, ende - anfang));
         anfang = ende + trenner.size();
     }

@@ -3,10 +3,9 @@
 std::vector<int> Tippfeld7x7::gewaehlte() const
 {
     std::vector<int> zahlen;
-    for (int zahl = 1; zahl <= kZahlen; ++zahl) {
+    for (int zahl = 1; zahl <= kZahlen; ++zahl)
         if (markiert(zahl))
             zahlen.push_back(zahl);
-    }
     return zahlen;
 }
 
@@ -31,8 +30,7 @@ void Tippfeld7x7::klickEineZahl(int zahl)
 void Tippfeld7x7::zeige(std::span<const std::int32_t> zahlen)
 {
     loesche();
-    for (const std::int32_t zahl : zahlen) {
+    for (const std::int32_t zahl : zahlen)
         if (gibtEs(zahl))
             marken_.set(stelle(zahl));
-    }
 }

@@ -92,9 +92,8 @@ GestellteUhr::GestellteUhr() : GestellteUhr(SystemUhr().jetzt()) {}
 
 Zeitpunkt GestellteUhr::jetzt() const
 {
-    if (lauf_ == Lauf::Steht) {
+    if (lauf_ == Lauf::Steht)
         return zeit_;
-    }
     return zeit_ + std::chrono::floor<milliseconds>(std::chrono::steady_clock::now() - gestellt_);
 }
 
@@ -107,9 +106,8 @@ void GestellteUhr::stelle(Zeitpunkt zeit)
 bool GestellteUhr::stelle(std::string_view iso)
 {
     const std::optional<Zeitpunkt> zeit = liesIsoZeit(iso);
-    if (zeit) {
+    if (zeit)
         stelle(*zeit);
-    }
     return zeit.has_value();
 }
 
@@ -144,9 +142,8 @@ std::optional<Zeitpunkt> liesIsoZeit(std::string_view text)
         tausendstel = leser.tausendstel();
     }
     const year_month_day datum = jahr / monat / tag;
-    if (!leser.gut() || !datum.ok() || uhrzeit[0] > 23 || uhrzeit[1] > 59 || uhrzeit[2] > 59) {
+    if (!leser.gut() || !datum.ok() || uhrzeit[0] > 23 || uhrzeit[1] > 59 || uhrzeit[2] > 59)
         return std::nullopt;
-    }
     return local_days{datum} + hours{uhrzeit[0]} + minutes{uhrzeit[1]} + seconds{uhrzeit[2]} +
            milliseconds{tausendstel};
 }

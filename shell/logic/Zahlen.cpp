@@ -19,9 +19,8 @@ struct Gelesen {
 Gelesen lies(std::string_view text)
 {
     // from_chars knows no plus sign, and "+-1" is no number.
-    if (text.starts_with('+') && !text.starts_with("+-")) {
+    if (text.starts_with('+') && !text.starts_with("+-"))
         text.remove_prefix(1);
-    }
     Gelesen ergebnis;
     const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), ergebnis.wert);
     ergebnis.fehler = fehler;
@@ -34,9 +33,8 @@ Gelesen lies(std::string_view text)
 std::optional<std::int32_t> ganzzahl(std::string_view text)
 {
     const Gelesen gelesen = lies(trim(text));
-    if (gelesen.fehler != std::errc{} || !gelesen.rest.empty()) {
+    if (gelesen.fehler != std::errc{} || !gelesen.rest.empty())
         return std::nullopt;
-    }
     return gelesen.wert;
 }
 
@@ -65,15 +63,12 @@ std::int64_t rundeZurGeraden(double wert)
 {
     using Grenzen = std::numeric_limits<std::int64_t>;
     constexpr double kZuGross = 9223372036854775808.0; // 2 to the power 63
-    if (std::isnan(wert)) {
+    if (std::isnan(wert))
         return 0;
-    }
-    if (wert >= kZuGross) {
+    if (wert >= kZuGross)
         return Grenzen::max();
-    }
-    if (wert < -kZuGross) {
+    if (wert < -kZuGross)
         return Grenzen::min();
-    }
     return static_cast<std::int64_t>(std::nearbyint(wert)); // nobody changes the rounding mode, which is to even
 }
 

@@ -27,18 +27,14 @@ struct Anfang {
 
 Anfang liesAnfang(unsigned char byte)
 {
-    if (byte < 0x80U) {
+    if (byte < 0x80U)
         return {1, byte, 0};
-    }
-    if ((byte & 0xE0U) == 0xC0U) {
+    if ((byte & 0xE0U) == 0xC0U)
         return {2, byte & 0x1FU, 0x80};
-    }
-    if ((byte & 0xF0U) == 0xE0U) {
+    if ((byte & 0xF0U) == 0xE0U)
         return {3, byte & 0x0FU, 0x800};
-    }
-    if ((byte & 0xF8U) == 0xF0U) {
+    if ((byte & 0xF8U) == 0xF0U)
         return {4, byte & 0x07U, 0x10000};
-    }
     return {0, 0, 0};
 }
 
@@ -63,9 +59,8 @@ void haengeAn(std::string& ziel, char32_t zeichen)
 
 char alsByte(char32_t zeichen)
 {
-    if (zeichen < kHoheAb || (zeichen >= kLatinAb && zeichen <= 0xFF)) {
+    if (zeichen < kHoheAb || (zeichen >= kLatinAb && zeichen <= 0xFF))
         return static_cast<char>(zeichen);
-    }
     const auto* const stelle = std::ranges::find(kHohe, static_cast<char32_t>(zeichen));
     return stelle == kHohe.end() ? '?' : static_cast<char>(kHoheAb + static_cast<char32_t>(stelle - kHohe.begin()));
 }
@@ -91,9 +86,8 @@ std::string nachWindows1252(std::string_view text)
 {
     std::string bytes;
     bytes.reserve(text.size());
-    while (!text.empty()) {
+    while (!text.empty())
         bytes += alsByte(naechstesZeichen(text));
-    }
     return bytes;
 }
 

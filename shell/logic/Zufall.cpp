@@ -65,9 +65,8 @@ std::array<int, 6> sechsZahlen(Zufall& zufall)
     std::array<int, 6> zahlen{};
     std::ranges::generate(zahlen, [&] {
         int zahl = lottozahl(zufall.Rnd());
-        while (vergeben[static_cast<std::size_t>(zahl - 1)]) {
+        while (vergeben[static_cast<std::size_t>(zahl - 1)])
             zahl = lottozahl(zufall.Rnd());
-        }
         vergeben[static_cast<std::size_t>(zahl - 1)] = true;
         return zahl;
     });

@@ -115,9 +115,8 @@ TEST(SchreibeDatei, LeererPfadIstEinFehler)
 template <class Tue> int imKind(Tue tue)
 {
     const pid_t kind = ::fork();
-    if (kind == 0) {
+    if (kind == 0)
         ::_exit(tue());
-    }
     int zustand = 0;
     ::waitpid(kind, &zustand, 0);
     return WIFEXITED(zustand) ? WEXITSTATUS(zustand) : -1;
@@ -130,9 +129,8 @@ TEST(SchreibeDatei, OrdnerOhneSchreibrechtLaesstDieAlteStehen)
     fs::permissions(ordner.pfad(), fs::perms(0555));
     const int fehler = imKind([&] {
         constexpr uid_t kNiemand = 65534;
-        if (::geteuid() == 0 && ::setuid(kNiemand) != 0) { // root may write everywhere
+        if (::geteuid() == 0 && ::setuid(kNiemand) != 0) // root may write everywhere
             return 0;
-        }
         return schreibeDatei(datei, "neu").fehler;
     });
     EXPECT_EQ(fehler, EACCES);

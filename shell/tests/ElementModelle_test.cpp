@@ -1,7 +1,7 @@
+#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Auswertebereich.h"
 #include "shell/logic/ClipReport.h"
 #include "shell/logic/Druckzeilen.h"
-#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Tippfeld7x7.h"
 #include "shell/logic/ZZModus.h"
 

@@ -106,9 +106,8 @@ protected:
     {
         buehne.bildschirme.registriere(
             "frmWerkbank", [gemeinsam = protokoll_](Umgebung& u) { return std::make_unique<Werkbank>(u, gemeinsam); });
-        buehne.bildschirme.registriere("frmLSTART", [](Umgebung& u) {
-            return std::make_unique<Menueersatz>(u, [](std::int16_t) {});
-        });
+        buehne.bildschirme.registriere(
+            "frmLSTART", [](Umgebung& u) { return std::make_unique<Menueersatz>(u, [](std::int16_t) {}); });
     }
 
     Bildschirm& zeige()

@@ -274,10 +274,9 @@ bool maltFarbe(QWidget& feld, const QColor& farbe)
 {
     const QImage bild = feld.grab().toImage();
     for (int y = 0; y < bild.height(); ++y) {
-        for (int x = 0; x < bild.width(); ++x) {
+        for (int x = 0; x < bild.width(); ++x)
             if (bild.pixelColor(x, y) == farbe)
                 return true;
-        }
     }
     return false;
 }

@@ -86,10 +86,9 @@ protected:
     std::vector<int> gewaehlte() const
     {
         std::vector<int> alle;
-        for (int zeile = 0; zeile < liste_->zeilenzahl(); ++zeile) {
+        for (int zeile = 0; zeile < liste_->zeilenzahl(); ++zeile)
             if (liste_->istGewaehlt(zeile))
                 alle.push_back(zeile);
-        }
         return alle;
     }
 
@@ -123,10 +122,9 @@ bool istEinfarbig(const QImage& bild, const QRect& bereich)
 {
     const QRect innen = bereich.intersected(bild.rect());
     for (int y = innen.top(); y <= innen.bottom(); ++y) {
-        for (int x = innen.left(); x <= innen.right(); ++x) {
+        for (int x = innen.left(); x <= innen.right(); ++x)
             if (bild.pixel(x, y) != bild.pixel(innen.topLeft()))
                 return false;
-        }
     }
     return true;
 }

@@ -286,11 +286,9 @@ TEST(Format, KurzerUndAllgemeinerWegGebenDasselbe)
 /// Whole numbers and the same numbers as doubles must look alike.
 TEST(Format, GanzeUndKommazahlGleichenWertsSehenGleichAus)
 {
-    for (const std::string_view maske : {"00", "#,###,###", "#0.00", "##", "0.0%", "@@@@", "#0.#0"}) {
-        for (int wert = -1200; wert <= 1200; ++wert) {
+    for (const std::string_view maske : {"00", "#,###,###", "#0.00", "##", "0.0%", "@@@@", "#0.#0"})
+        for (int wert = -1200; wert <= 1200; ++wert)
             ASSERT_EQ(Format(wert, maske), Format(static_cast<double>(wert), maske)) << wert << " " << maske;
-        }
-    }
 }
 
 TEST(Dezimaltext, RundetOhneAufzufuellen)

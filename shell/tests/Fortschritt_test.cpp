@@ -120,9 +120,8 @@ TEST(Takt, FalschHaeltAnUndFragtNichtWieder)
 TEST(Takt, OhneZuhoererLaeuftEsWeiter)
 {
     Takt takt(nullptr);
-    for (std::uint64_t i = 0; i < 3'000'000; ++i) {
+    for (std::uint64_t i = 0; i < 3'000'000; ++i)
         ASSERT_TRUE(takt.schritt(i));
-    }
     EXPECT_TRUE(takt.melde(1));
 }
 

@@ -181,12 +181,10 @@ TEST_F(IniDatei, LeererAbschnittsnameOderKaputteKoepfe)
 
 TEST(IstWahr, WasAlsWahrGilt)
 {
-    for (const char* const text : {"True", "true", "TRUE", "Wahr", "wahr", "1", "-1", " True "}) {
+    for (const char* const text : {"True", "true", "TRUE", "Wahr", "wahr", "1", "-1", " True "})
         EXPECT_TRUE(istWahr(text)) << text;
-    }
-    for (const char* const text : {"", "False", "Falsch", "0", "2", "ja", "Truex"}) {
+    for (const char* const text : {"", "False", "Falsch", "0", "2", "ja", "Truex"})
         EXPECT_FALSE(istWahr(text)) << text;
-    }
 }
 
 TEST(Wahrheitswert, TextUndZurueck)

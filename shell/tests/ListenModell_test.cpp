@@ -89,9 +89,8 @@ TEST(ListenModell, EntferntNurWasDaIst)
 TEST(ListenModell, SortierteOrdnetNachBytes)
 {
     ListenModell liste({.Sorted = true});
-    for (const char* const text : {"99", "103", " 9", "11", "100", "10"}) {
+    for (const char* const text : {"99", "103", " 9", "11", "100", "10"})
         liste.AddItem(text);
-    }
     EXPECT_THAT(liste.zeilen(), ElementsAre(" 9", "10", "100", "103", "11", "99"));
 }
 
@@ -140,9 +139,8 @@ TEST(ListenModell, AuswahlBleibtBeiIhrerZeileWennNeueDazwischenKommen)
     liste.SetListIndex(1);
     liste.SetSelected(0, true);
     liste.SetSelected(2, true);
-    for (const char* const text : {"g", "a", "e", "c", "d"}) {
+    for (const char* const text : {"g", "a", "e", "c", "d"})
         liste.AddItem(text);
-    }
     EXPECT_EQ(liste.SelCount(), 2U);
     EXPECT_THAT(liste.ausgewaehlte(), ElementsAre(1U, 6U));
     EXPECT_EQ(liste.ListIndex(), 3); // the old "d" stands before the new one
@@ -332,9 +330,8 @@ public:
     void fuegeEin(const std::string& text, std::size_t index)
     {
         auto stelle = zeilen_.begin() + static_cast<std::ptrdiff_t>(index);
-        if (sortiert_) {
+        if (sortiert_)
             stelle = std::ranges::upper_bound(zeilen_, text, {}, &Zeile::text);
-        }
         zeilen_.insert(stelle, Zeile{text});
     }
 
@@ -342,18 +339,16 @@ public:
 
     void macheAktuell(std::ptrdiff_t index)
     {
-        for (std::size_t i = 0; i < zeilen_.size(); ++i) {
+        for (std::size_t i = 0; i < zeilen_.size(); ++i)
             zeilen_[i].aktuell = static_cast<std::ptrdiff_t>(i) == index;
-        }
     }
 
     void waehle(std::size_t index, bool gewaehlt)
     {
-        if (mehrfach_) {
+        if (mehrfach_)
             zeilen_[index].gewaehlt = gewaehlt;
-        } else if (gewaehlt || zeilen_[index].aktuell) {
+        else if (gewaehlt || zeilen_[index].aktuell)
             macheAktuell(gewaehlt ? static_cast<std::ptrdiff_t>(index) : -1);
-        }
     }
 
     std::size_t anzahl() const { return zeilen_.size(); }
@@ -368,12 +363,10 @@ public:
             const bool gewaehlt = mehrfach_ ? zeilen_[i].gewaehlt : zeilen_[i].aktuell;
             ASSERT_EQ(modell.List(i), zeilen_[i].text);
             ASSERT_EQ(modell.Selected(i), gewaehlt);
-            if (zeilen_[i].aktuell) {
+            if (zeilen_[i].aktuell)
                 aktuelle = static_cast<std::ptrdiff_t>(i);
-            }
-            if (gewaehlt) {
+            if (gewaehlt)
                 gewaehlte.push_back(i);
-            }
         }
         ASSERT_EQ(modell.ListIndex(), aktuelle);
         ASSERT_EQ(modell.ausgewaehlte(), gewaehlte);
@@ -424,9 +417,8 @@ TEST_P(BeliebigeFolgen, VerhaltenSichWieDieSchlichteListe)
             }
         }
         schlicht.erwarteGleich(modell);
-        if (HasFatalFailure()) {
+        if (HasFatalFailure())
             return;
-        }
     }
 }
 

@@ -22,24 +22,20 @@ template <class T> void sortiereNachVorschrift(std::vector<T>& feld, std::ptrdif
     std::ptrdiff_t j = oben;
     const T mitte = bei(gerundeteMitte(i, j));
     do {
-        while (bei(i) < mitte) {
+        while (bei(i) < mitte)
             ++i;
-        }
-        while (bei(j) > mitte) {
+        while (bei(j) > mitte)
             --j;
-        }
         if (i <= j) {
             std::swap(bei(i), bei(j));
             ++i;
             --j;
         }
     } while (i <= j);
-    if (unten < j) {
+    if (unten < j)
         sortiereNachVorschrift(feld, unten, j);
-    }
-    if (i < oben) {
+    if (i < oben)
         sortiereNachVorschrift(feld, i, oben);
-    }
 }
 
 /// Equal keys that can be told apart show whether the same elements change places.
@@ -120,9 +116,8 @@ TEST(QuickSort, GleicheSchluesselStehenWieNachDerVorschrift)
     for (int runde = 0; runde < 500; ++runde) {
         std::vector<Markiert> feld(1 + zufall() % 40);
         int marke = 0;
-        for (Markiert& element : feld) {
+        for (Markiert& element : feld)
             element = {static_cast<int>(zufall() % 8), marke++};
-        }
         std::vector<Markiert> vorschrift = feld;
         sortiereNachVorschrift(vorschrift, 0, std::ssize(vorschrift) - 1);
         QuickSort(feld);

@@ -37,9 +37,8 @@ TEST(Windows1252, ZeichenOhneByteWerdenFragezeichen)
 TEST(Windows1252, JedesByteKommtZurueck)
 {
     for (int byte = 0; byte < 256; ++byte) {
-        if (byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D) {
+        if (byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D)
             continue;
-        }
         const std::string bytes(1, static_cast<char>(byte));
         EXPECT_EQ(nachWindows1252(ausWindows1252(bytes)), bytes) << byte;
     }

@@ -109,9 +109,8 @@ TEST(SechsZahlen, SindDieVerschiedenenDerFolgeInIhrerReihenfolge)
         std::vector<int> erwartet;
         while (erwartet.size() < 6) {
             const int zahl = lottozahl(gleicher.Rnd());
-            if (std::ranges::find(erwartet, zahl) == erwartet.end()) {
+            if (std::ranges::find(erwartet, zahl) == erwartet.end())
                 erwartet.push_back(zahl);
-            }
         }
         const auto zahlen = sechsZahlen(zufall);
         ASSERT_TRUE(std::ranges::equal(zahlen, erwartet));
@@ -124,16 +123,13 @@ TEST(SechsZahlen, JedeZahlKommtGleichOft)
     Zufall zufall(1986);
     constexpr int kTipps = 98'000;
     std::array<int, 50> anzahl{};
-    for (int i = 0; i < kTipps; ++i) {
-        for (const int zahl : sechsZahlen(zufall)) {
+    for (int i = 0; i < kTipps; ++i)
+        for (const int zahl : sechsZahlen(zufall))
             ++anzahl[static_cast<std::size_t>(zahl)];
-        }
-    }
     constexpr double kErwartet = kTipps * 6 / 49.0;
     double summe = 0;
-    for (std::size_t zahl = 1; zahl <= 49; ++zahl) {
+    for (std::size_t zahl = 1; zahl <= 49; ++zahl)
         summe += (anzahl[zahl] - kErwartet) * (anzahl[zahl] - kErwartet) / kErwartet;
-    }
     EXPECT_LT(summe, 48 + 5 * std::sqrt(96.0));
 }
 

@@ -35,10 +35,9 @@ Staende alleStaende(const ZiehungsArchiv& archiv, ZZModus modus)
     Staende staende{};
     for (std::int32_t nr = 1; nr <= archiv.AnzahlZiehungen; ++nr) {
         const auto i = static_cast<std::size_t>(nr);
-        if (zaehltGewinnzahlen(modus)) {
+        if (zaehltGewinnzahlen(modus))
             for (const std::int32_t zahl : archiv.gewinnzahlen(i))
                 merke(staende, zahl, nr);
-        }
         if (zaehltZusatzzahl(modus))
             merke(staende, archiv.zz[i], nr);
     }

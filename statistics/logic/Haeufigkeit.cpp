@@ -19,10 +19,9 @@ std::int32_t& fach(Tafel& tafel, std::int32_t zahl)
 
 void zaehleZiehung(const ZiehungsArchiv& archiv, std::size_t nr, ZZModus modus, Tafel& tafel)
 {
-    if (zaehltGewinnzahlen(modus)) {
+    if (zaehltGewinnzahlen(modus))
         for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
             ++fach(tafel, zahl);
-    }
     if (zaehltZusatzzahl(modus))
         ++fach(tafel, archiv.zz[nr]);
 }

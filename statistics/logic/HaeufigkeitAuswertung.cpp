@@ -1,7 +1,7 @@
 #include "statistics/logic/HaeufigkeitAuswertung.h"
 
-#include "shell/logic/Format.h"
 #include "archive/logic/Spielarttexte.h"
+#include "shell/logic/Format.h"
 
 #include <string_view>
 

@@ -1,8 +1,8 @@
 #include "statistics/logic/JahrUndWocheZeilen.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/ClipReport.h"
 #include "shell/logic/Format.h"
-#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Texte.h"
 
 namespace {

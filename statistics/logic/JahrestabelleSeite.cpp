@@ -1,5 +1,5 @@
-#include "reports/frame/HtmlSeite.h"
 #include "archive/logic/Spielarttexte.h"
+#include "reports/frame/HtmlSeite.h"
 #include "shell/logic/Texte.h"
 #include "statistics/logic/Jahrestabelle.h"
 

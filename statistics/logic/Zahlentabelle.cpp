@@ -12,10 +12,9 @@ void zaehle(Zahlenzeile& zeile, std::int32_t zahl)
 
 void zaehleZiehung(Zahlenzeile& zeile, const ZiehungsArchiv& archiv, std::size_t nr, ZZModus modus)
 {
-    if (zaehltGewinnzahlen(modus)) {
+    if (zaehltGewinnzahlen(modus))
         for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
             zaehle(zeile, zahl);
-    }
     if (zaehltZusatzzahl(modus))
         zaehle(zeile, archiv.zz[nr]);
 }
@@ -23,22 +22,20 @@ void zaehleZiehung(Zahlenzeile& zeile, const ZiehungsArchiv& archiv, std::size_t
 void markiere(Zahlenzeile& zeile)
 {
     const auto [min, max] = std::ranges::minmax(zeile.zellen, {}, &Zahlenzelle::anzahl);
-    for (Zahlenzelle& zelle : zeile.zellen) {
+    for (Zahlenzelle& zelle : zeile.zellen)
         if (zelle.anzahl == max.anzahl)
             zelle.marke = Zellmarke::Maximum;
         else if (zelle.anzahl == min.anzahl)
             zelle.marke = Zellmarke::Minimum;
-    }
 }
 
 std::optional<Tabellenrekord> rekordVon(std::span<const Zahlenzeile> zeilen)
 {
     std::optional<Tabellenrekord> rekord;
     for (const Zahlenzeile& zeile : zeilen) {
-        for (std::size_t i = 0; i < zeile.zellen.size(); ++i) {
+        for (std::size_t i = 0; i < zeile.zellen.size(); ++i)
             if (!rekord || zeile.zellen[i].anzahl > rekord->anzahl)
                 rekord = {zeile.zellen[i].anzahl, static_cast<int>(i + 1), zeile.schluessel};
-        }
     }
     return rekord;
 }
@@ -51,10 +48,9 @@ Zahlentabelle zaehleTabelle(const ZiehungsArchiv& archiv, ZZModus modus, std::sp
     Zahlentabelle tabelle;
     for (std::int32_t wert = von; wert <= bis; ++wert)
         tabelle.zeilen.push_back({wert, {}});
-    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr) {
+    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr)
         if (schluessel[nr] >= von && schluessel[nr] <= bis)
             zaehleZiehung(tabelle.zeilen[static_cast<std::size_t>(schluessel[nr] - von)], archiv, nr, modus);
-    }
     for (Zahlenzeile& zeile : tabelle.zeilen)
         markiere(zeile);
     tabelle.rekord = rekordVon(tabelle.zeilen);

@@ -55,10 +55,9 @@ void ergaenzeMittwoch(ZuletztAuswertung& auswertung, const ZiehungsArchiv& archi
 {
     auswertung.mittwochAB = true;
     const ZuletztGezogen letzte = zuletztGezogen(archiv, auswertung.Suchbeginn, auswertung.Grenze, ZZModus::Ohne);
-    for (std::size_t i = 0; i < letzte.size(); ++i) {
+    for (std::size_t i = 0; i < letzte.size(); ++i)
         if (letzte[i] > auswertung.auftreten[i].ZiehungsNr)
             auswertung.auftreten[i] = auftretenIn(archiv, letzte[i]);
-    }
 }
 
 ZuletztMarken zuletztMarken(const ZuletztAuswertung& auswertung)

@@ -24,10 +24,9 @@ int merkeZiehung(ZuletztGezogen& letzte, const ZiehungsArchiv& archiv, std::int3
 {
     const auto i = static_cast<std::size_t>(nr);
     int neue = 0;
-    if (zaehltGewinnzahlen(modus)) {
+    if (zaehltGewinnzahlen(modus))
         for (const std::int32_t zahl : archiv.gewinnzahlen(i))
             neue += merke(letzte, zahl, nr);
-    }
     if (zaehltZusatzzahl(modus))
         neue += merke(letzte, archiv.zz[i], nr);
     return neue;

@@ -1,7 +1,7 @@
 #include "statistics/logic/ZuletztTafel.h"
 
-#include "shell/logic/Format.h"
 #include "archive/logic/Spielarttexte.h"
+#include "shell/logic/Format.h"
 
 #include <algorithm>
 

@@ -46,10 +46,9 @@ void Balkenfeld::zeige(const Balkengraphik& graphik, const Extremwerte& extreme)
 
 int Balkenfeld::zahlVon(const QWidget* feld) const
 {
-    for (std::size_t i = 0; i < Bild2.size(); ++i) {
+    for (std::size_t i = 0; i < Bild2.size(); ++i)
         if (Bild2[i] == feld)
             return static_cast<int>(i) + 1;
-    }
     return 0;
 }
 

@@ -1,5 +1,6 @@
 #include "statistics/screens/Registrierung.h"
 
+#include "shell/elements/BildschirmVerzeichnis.h"
 #include "statistics/screens/frmABSTAND.h"
 #include "statistics/screens/frmGraph.h"
 #include "statistics/screens/frmHJAHR.h"
@@ -7,7 +8,6 @@
 #include "statistics/screens/frmSTAT1.h"
 #include "statistics/screens/frmSWH.h"
 #include "statistics/screens/frmZuletzt.h"
-#include "shell/elements/BildschirmVerzeichnis.h"
 
 void registriereStatistikbildschirme(BildschirmVerzeichnis& verzeichnis)
 {

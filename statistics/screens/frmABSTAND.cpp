@@ -1,12 +1,12 @@
 #include "statistics/screens/frmABSTAND.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "listcontrol/screens/ListView.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
 #include "shell/elements/ZZModusOptionen.h"
-#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Zahlen.h"
 #include "statistics/logic/AbstandListe.h"
 

@@ -1,10 +1,10 @@
 #include "statistics/screens/frmHJAHR.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "reports/frame/Seitenablage.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
-#include "archive/logic/Spielarttexte.h"
 
 #include <QGroupBox>
 #include <QLabel>

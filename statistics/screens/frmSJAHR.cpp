@@ -1,5 +1,6 @@
 #include "statistics/screens/frmSJAHR.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
@@ -7,7 +8,6 @@
 #include "shell/elements/Utf8.h"
 #include "shell/elements/ZZModusOptionen.h"
 #include "shell/logic/ClipReport.h"
-#include "archive/logic/Spielarttexte.h"
 #include "statistics/logic/JahrUndWocheZeilen.h"
 
 #include <QGroupBox>

@@ -1,5 +1,6 @@
 #include "statistics/screens/frmSTAT1.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Farben.h"
 #include "shell/elements/Infotafel.h"
@@ -8,7 +9,6 @@
 #include "shell/elements/Utf8.h"
 #include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
-#include "archive/logic/Spielarttexte.h"
 #include "statistics/screens/frmGraph.h"
 
 #include <QGroupBox>

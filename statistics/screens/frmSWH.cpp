@@ -1,11 +1,11 @@
 #include "statistics/screens/frmSWH.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"
-#include "archive/logic/Spielarttexte.h"
 #include "shell/logic/ZZModus.h"
 #include "statistics/logic/Spielwochen.h"
 

@@ -1,5 +1,6 @@
 #include "statistics/screens/frmZuletzt.h"
 
+#include "archive/logic/Spielarttexte.h"
 #include "shell/elements/Farben.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
@@ -8,7 +9,6 @@
 #include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Format.h"
-#include "archive/logic/Spielarttexte.h"
 
 #include <QComboBox>
 #include <QGroupBox>

@@ -89,11 +89,9 @@ TEST(AbstandFarben, DieZeileDesLaengstenAbstandsIstOrange)
 
 TEST(AbstandFarben, TrennerSindGrauInJederZeile)
 {
-    for (int spalte = 1; spalte <= 21; spalte += 2) {
-        for (const bool laengster : {false, true}) {
+    for (int spalte = 1; spalte <= 21; spalte += 2)
+        for (const bool laengster : {false, true})
             EXPECT_EQ(abstandFarbe(1, spalte, "", laengster).grund, (Farbe{192, 192, 192})) << spalte;
-        }
-    }
 }
 
 TEST(AbstandFarben, EineZahlMitLeerzeichenIstEinTreffer)

@@ -102,10 +102,9 @@ TEST_P(EchteZiehungen, ZuletztVorWieImText)
     const std::size_t beginn = GetParam() == Samstagslotto ? 2000 : 241;
     for (const ZZModus modus : {ZZModus::Ohne, ZZModus::Mit, ZZModus::Nur}) {
         std::array<std::size_t, 50> letzte{};
-        for (std::size_t nr = beginn; nr <= zeilen_.size(); ++nr) {
+        for (std::size_t nr = beginn; nr <= zeilen_.size(); ++nr)
             for (const int zahl : zahlenDerZeile(zeilen_[nr - 1], modus))
                 letzte.at(static_cast<std::size_t>(zahl)) = nr;
-        }
         const ZuletztVor zuletzt = zuletztVor(archiv_, modus);
         for (std::size_t zahl = 1; zahl <= 49; ++zahl)
             EXPECT_EQ(static_cast<std::size_t>(zuletzt[zahl - 1]), zeilen_.size() - letzte[zahl])

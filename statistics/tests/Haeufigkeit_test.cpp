@@ -42,10 +42,9 @@ Haeufigkeit vonHand(const std::vector<TestZiehung>& ziehungen, const Ziehungsber
             zahlen.assign(ziehung.zahlen.begin(), ziehung.zahlen.end());
         if (modus != ZZModus::Ohne)
             zahlen.push_back(ziehung.zz);
-        for (const std::int32_t zahl : zahlen) {
+        for (const std::int32_t zahl : zahlen)
             if (zahl >= 1 && zahl <= 49)
                 ++summe.anzahl[static_cast<std::size_t>(zahl - 1)];
-        }
     }
     return summe;
 }

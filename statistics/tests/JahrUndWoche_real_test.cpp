@@ -35,10 +35,9 @@ protected:
     template <class Schluessel> std::map<int, std::map<int, int>> zaehle(ZZModus modus, Schluessel schluessel) const
     {
         std::map<int, std::map<int, int>> anzahl;
-        for (std::size_t i = 0; i < roh_.size(); ++i) {
+        for (std::size_t i = 0; i < roh_.size(); ++i)
             for (const int zahl : zahlenVon(roh_[i], modus))
                 ++anzahl[schluessel(i)][zahl];
-        }
         return anzahl;
     }
 
@@ -46,10 +45,9 @@ protected:
     {
         int gezaehlt = 0;
         int gefunden = 0;
-        for (const auto& [jahr, zahlen] : erwartet) {
+        for (const auto& [jahr, zahlen] : erwartet)
             for (const auto& [zahl, anzahl] : zahlen)
                 gezaehlt += anzahl;
-        }
         for (const Zahlenzeile& zeile : tabelle.zeilen) {
             const auto jahr = erwartet.find(zeile.schluessel);
             for (int zahl = 1; zahl <= 49; ++zahl) {
@@ -157,10 +155,9 @@ int jahrNachDatum(Spielart spielart, std::int32_t jahr, std::int32_t woche)
 {
     const ZiehungsArchiv archiv = ladeEchte(spielart);
     const std::vector<std::int32_t> jahre = datumsjahre(archiv);
-    for (std::size_t nr = 1; nr < jahre.size(); ++nr) {
+    for (std::size_t nr = 1; nr < jahre.size(); ++nr)
         if (archiv.jjjj[nr] == jahr && archiv.sw[nr] == woche)
             return jahre[nr];
-    }
     return 0;
 }
 

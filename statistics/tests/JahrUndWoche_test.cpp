@@ -14,11 +14,11 @@ using testing::ElementsAre;
 ZiehungsArchiv dreiJahre()
 {
     return archivAus(Samstagslotto, {{1955, 51, {1, 2, 3, 4, 5, 7}, 0},
-                                      {1955, 52, {7, 8, 9, 10, 11, 12}, 0},
-                                      {1956, 1, {1, 2, 3, 4, 5, 6}, 7},
-                                      {1956, 2, {7, 20, 30, 40, 41, 42}, 43},
-                                      {1956, 52, {13, 14, 15, 16, 17, 18}, 0},
-                                      {1957, 53, {13, 14, 15, 16, 17, 18}, 1}});
+                                     {1955, 52, {7, 8, 9, 10, 11, 12}, 0},
+                                     {1956, 1, {1, 2, 3, 4, 5, 6}, 7},
+                                     {1956, 2, {7, 20, 30, 40, 41, 42}, 43},
+                                     {1956, 52, {13, 14, 15, 16, 17, 18}, 0},
+                                     {1957, 53, {13, 14, 15, 16, 17, 18}, 1}});
 }
 
 std::int32_t inWoche(const HaeufigkeitProWoche& haeufigkeit, int woche)
@@ -80,9 +80,9 @@ TEST(CountPerWeek, ZaehltNachSpielwoche)
 TEST(CountPerWeek, EineWocheAusserhalbWirdAusgelassen)
 {
     const ZiehungsArchiv archiv = archivAus(Samstagslotto, {{1955, 0, {1, 2, 3, 4, 5, 6}, 0},
-                                                             {1955, 54, {1, 2, 3, 4, 5, 6}, 0},
-                                                             {1955, -1, {1, 2, 3, 4, 5, 6}, 0},
-                                                             {1955, 2147483647, {1, 2, 3, 4, 5, 6}, 0}});
+                                                            {1955, 54, {1, 2, 3, 4, 5, 6}, 0},
+                                                            {1955, -1, {1, 2, 3, 4, 5, 6}, 0},
+                                                            {1955, 2147483647, {1, 2, 3, 4, 5, 6}, 0}});
     EXPECT_EQ(countPerWeek(archiv, 1, ZZModus::Ohne), HaeufigkeitProWoche{});
     EXPECT_EQ(countPerYear(archiv, 1, ZZModus::Ohne).gesamt, 4);
 }

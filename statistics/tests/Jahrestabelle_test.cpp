@@ -14,10 +14,10 @@ using testing::HasSubstr;
 ZiehungsArchiv jahreswechsel()
 {
     ZiehungsArchiv archiv = archivAus(Samstagslotto, {{2010, 51, {1, 2, 3, 4, 5, 6}, 7},
-                                                       {2010, 52, {1, 2, 3, 4, 5, 49}, 8},
-                                                       {2011, 1, {1, 11, 12, 13, 14, 15}, 49},
-                                                       {2014, 52, {1, 2, 3, 4, 5, 6}, 0},
-                                                       {2015, 1, {1, 2, 3, 4, 5, 6}, 0}});
+                                                      {2010, 52, {1, 2, 3, 4, 5, 49}, 8},
+                                                      {2011, 1, {1, 11, 12, 13, 14, 15}, 49},
+                                                      {2014, 52, {1, 2, 3, 4, 5, 6}, 0},
+                                                      {2015, 1, {1, 2, 3, 4, 5, 6}, 0}});
     archiv.Datum = {
         "", "Sa, 25.12.2010", "Sa, 01.01.2011", "Sa, 08.01.2011", "Sa, 27.12.2014", "Mi, 31.12.2014", "Sa, 10.01.2015"};
     return archiv;
@@ -200,8 +200,8 @@ std::string kopfzeile()
 TEST(JahrestabellenSeite, IstDieGanzeSeite)
 {
     const ZiehungsArchiv archiv = archivAus(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 6}, 7},
-                                                               {1986, 24, {1, 2, 3, 4, 5, 7}, 49},
-                                                               {1987, 1, {44, 45, 46, 47, 48, 49}, 0}});
+                                                              {1986, 24, {1, 2, 3, 4, 5, 7}, 49},
+                                                              {1987, 1, {44, 45, 46, 47, 48, 49}, 0}});
     const std::string rot2 = "<td><font color=red>2</font></td>";
     const std::string rot1 = "<td><font color=red>1</font></td>";
     const std::string blau = "<td><font color=blue>0</font></td>";

@@ -197,10 +197,9 @@ TEST(ZuletztMarken, AlleDerNeuestenUndDerAeltestenZiehung)
     auto ziehungen = gleiche(10);
     ziehung(ziehungen, 10).zahlen = {1, 2, 3, 4, 5, 49};
     ziehung(ziehungen, 1).zahlen = {7, 8, 9, 10, 11, 12};
-    for (std::int32_t nr = 2, zahl = 13; zahl <= 48; ++nr) {
+    for (std::int32_t nr = 2, zahl = 13; zahl <= 48; ++nr)
         for (std::int32_t& stelle : ziehung(ziehungen, static_cast<std::size_t>(nr)).zahlen)
             stelle = zahl++;
-    }
     ziehung(ziehungen, 9).zahlen[5] = 6;
     ziehungen.push_back({2000, 1, {1, 2, 3, 4, 5, 6}, 0}); // so that draw 10 is an earlier one
     const auto marken = zuletztMarken(werteZuletztAus(mittwoch(Mittwochslotto, ziehungen), 10, ZZModus::Ohne));

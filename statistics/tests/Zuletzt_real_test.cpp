@@ -18,10 +18,9 @@ std::size_t letzteImText(const std::vector<RohZiehung>& roh, int zahl, std::size
                          ZZModus modus)
 {
     std::size_t letzte = 0;
-    for (std::size_t nr = beginn; nr <= std::min(grenze, roh.size()); ++nr) {
+    for (std::size_t nr = beginn; nr <= std::min(grenze, roh.size()); ++nr)
         if (enthaelt(roh[nr - 1], zahl, modus))
             letzte = nr;
-    }
     return letzte;
 }
 

@@ -21,10 +21,9 @@ protected:
         int nr = 0;
         for (std::string zeile; std::getline(strom, zeile);) {
             ++nr;
-            for (std::size_t i = 0; i < 7; ++i) {
+            for (std::size_t i = 0; i < 7; ++i)
                 if ((i < 6 ? gewinnzahlen : zz) && std::stoi(zeile.substr(8 + 3 * i, 2)) == zahl)
                     nummern.push_back(nr);
-            }
         }
         return nummern;
     }

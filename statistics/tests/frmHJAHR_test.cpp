@@ -1,7 +1,7 @@
-#include "testhilfen/Schreibhindernisse.h"
 #include "shell/elements/Bildschirm.h"
 #include "statistics/screens/frmHJAHR.h"
 #include "statistics/tests/Statistiktest.h"
+#include "testhilfen/Schreibhindernisse.h"
 
 #include <QDir>
 #include <QFile>

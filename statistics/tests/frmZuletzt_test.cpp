@@ -27,10 +27,9 @@ struct Datei {
         std::array<int, 50> nummern{};
         for (int nr = von; nr <= std::min(bis, anzahl()); ++nr) {
             const std::string& zeile = zeilen[static_cast<std::size_t>(nr - 1)];
-            for (std::size_t i = 0; i < 7; ++i) {
+            for (std::size_t i = 0; i < 7; ++i)
                 if (i < 6 ? gewinnzahlen : zz)
                     nummern[std::stoul(zeile.substr(8 + 3 * i, 2))] = nr;
-            }
         }
         nummern[0] = 0;
         return nummern;

@@ -27,10 +27,9 @@ QMenu* offenesMenue(const QAction* eintrag)
 QList<int> gewaehlteZeilen(const Zeilenansicht& ansicht)
 {
     QList<int> gewaehlt;
-    for (int zeile = 0; zeile < ansicht.zeilenzahl(); ++zeile) {
+    for (int zeile = 0; zeile < ansicht.zeilenzahl(); ++zeile)
         if (ansicht.istGewaehlt(zeile))
             gewaehlt.push_back(zeile);
-    }
     return gewaehlt;
 }
 

@@ -23,10 +23,9 @@ namespace {
 
 QString liesAuswahl(const Zeilenansicht* ansicht)
 {
-    for (int zeile = 0; zeile < ansicht->zeilenzahl(); ++zeile) {
+    for (int zeile = 0; zeile < ansicht->zeilenzahl(); ++zeile)
         if (ansicht->istGewaehlt(zeile))
             return ansicht->zeilentext(zeile);
-    }
     return {};
 }
 
@@ -44,10 +43,9 @@ QString setzeTextfeld(QLineEdit* feld, const QString& text)
 QString setzeKombi(QComboBox* kombi, const QString& text)
 {
     int stelle = kombi->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    for (int i = 0; stelle < 0 && i < kombi->count(); ++i) {
+    for (int i = 0; stelle < 0 && i < kombi->count(); ++i)
         if (kombi->itemText(i).trimmed() == text.trimmed())
             stelle = i;
-    }
     if (stelle >= 0) {
         kombi->setCurrentIndex(stelle);
         emit kombi->activated(stelle);

@@ -253,14 +253,13 @@ Antwort Fernsteuerung::zeigeBoxen()
 Antwort Fernsteuerung::antworte(const QString& werte)
 {
     QStringList antworten;
-    for (const QString& wort : werte.split(' ')) {
+    for (const QString& wort : werte.split(' '))
         if (istAntwort(wort))
             antworten << wort;
         else if (antworten.isEmpty() || !antworten.last().contains(':'))
             return {{}, "keine Antwort " + wort};
         else
             antworten.last() += " " + wort;
-    }
     for (const QString& antwort : antworten)
         buehne_.boxen.antworte(antwort);
     return {};

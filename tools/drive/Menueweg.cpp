@@ -13,10 +13,9 @@ QString menueknopf(const std::vector<std::vector<Menuegruppe>>& tafel, const QSt
 {
     for (const auto& spalte : tafel) {
         for (const Menuegruppe& gruppe : spalte) {
-            for (const Menueknopf& knopf : gruppe.knoepfe) {
+            for (const Menueknopf& knopf : gruppe.knoepfe)
                 if (knopf.ziel == ziel && knopf.oeffnung != Oeffnung::NurDruecken)
                     return knopf.name;
-            }
         }
     }
     return {};
@@ -24,10 +23,9 @@ QString menueknopf(const std::vector<std::vector<Menuegruppe>>& tafel, const QSt
 
 QString popupeintrag(const QString& ziel)
 {
-    for (const Popupeintrag& eintrag : menueOption()) {
+    for (const Popupeintrag& eintrag : menueOption())
         if (eintrag.ziel == ziel)
             return eintrag.name;
-    }
     return {};
 }
 

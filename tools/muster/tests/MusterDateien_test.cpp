@@ -1,8 +1,7 @@
-#include "tools/muster/MusterDateien.h"
-
 #include "archive/logic/Ziehungsdatei.h"
 #include "testhilfen/Pruefordner.h"
 #include "tools/muster/Muster.h"
+#include "tools/muster/MusterDateien.h"
 
 #include <gtest/gtest.h>
 

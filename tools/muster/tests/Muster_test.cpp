@@ -1,6 +1,5 @@
-#include "tools/muster/Muster.h"
-
 #include "archive/logic/ZiehungsArchiv.h"
+#include "tools/muster/Muster.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -142,12 +141,11 @@ TEST(Muster, SuperzahlBeginntMitZeile1887Und497)
         const auto alle = zeilen(musterDatei(spielart, kStand));
         const std::size_t beginn = spielart == Samstagslotto ? 1887 : 497;
         std::set<int> gesehen;
-        for (std::size_t nr = 1; nr <= alle.size(); ++nr) {
+        for (std::size_t nr = 1; nr <= alle.size(); ++nr)
             if (nr < beginn)
                 ASSERT_EQ(superzahl(alle[nr - 1]), 0) << nr;
             else
                 gesehen.insert(superzahl(alle[nr - 1]));
-        }
         EXPECT_EQ(gesehen.size(), 10U) << "game " << spielart;
     }
 }
