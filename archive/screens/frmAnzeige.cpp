@@ -111,6 +111,7 @@ void frmAnzeige::baueEingabe()
     Befehl7 = befehl("Befehl7", "&Samstagslotto aktualisieren",
                      hinweis("Auf die Spielart Samstagslotto schalten, um die Ziehungsdatei Salotto.dat zu "
                              "aktualisieren."));
+    Befehl7->setShortcut({}); // Alt+S saves
     Befehl10 = befehl("Befehl10", "&Mittwochslotto aktualisieren",
                       hinweis("Auf die Spielart Mittwochslotto schalten, um die Ziehungsdatei  Malotto.dat zu "
                               "aktualisieren."));

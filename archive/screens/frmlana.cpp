@@ -56,6 +56,7 @@ frmlana::frmlana(Umgebung& umgebung)
     Befehl3 = befehl("Befehl3", "&Write");
     Befehl4 = befehl("Befehl4", "&Dos-Editor");
     Befehl5 = befehl("Befehl5", "Word&pad");
+    Befehl5->setShortcut({}); // Alt+P checks
     Befehl6 = befehl("Befehl6", "&Info");
     Befehl7 = befehl("Befehl7", "ok");
     Rahmen1 = rahmen("Rahmen1", "Info", spalte({dehnbar(Liste3), zeile({luecke(), Befehl7})}));

@@ -129,6 +129,21 @@ TEST_F(Anzeigebildschirm, SpeichernGehtErstMitSechsZahlenUndSuperzahl)
     EXPECT_EQ(zahlen(), QStringList(6, ""));
 }
 
+TEST_F(Anzeigebildschirm, AltSSpeichertUndSchaltetNichtUm)
+{
+    starte();
+    oeffneAm(kFreitag);
+    EXPECT_EQ(lies("Befehl7"), "&Samstagslotto aktualisieren");
+    klicke("Befehl10");
+    tippeZahlen({3, 12, 24, 33, 41, 49});
+    drueckeKuerzel("frmAnzeige", "Alt+S");
+    EXPECT_EQ(boxen().size(), 0);
+    setze("cmbSZ", "0");
+    drueckeKuerzel("frmAnzeige", "Alt+S");
+    EXPECT_TRUE(boxen().value(0).startsWith("question|Lottoprogramm Kontroll-Abfrage|"));
+    EXPECT_EQ(lies("Bezeichnung13"), "MITTWOCHSLOTTO 6 aus 49");
+}
+
 TEST_F(Anzeigebildschirm, SpeichertNachDerFrageUndRuecktWeiter)
 {
     schreibe("sa-mi-mib.dat", {"1"});

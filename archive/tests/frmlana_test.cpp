@@ -26,6 +26,15 @@ TEST_F(Strukturbildschirm, DasMusterIstFehlerfrei)
     EXPECT_EQ(bedienung.gewaehlte("Liste2").zeilen, QStringList());
 }
 
+TEST_F(Strukturbildschirm, AltPPrueft)
+{
+    starte();
+    oeffne("frmlana");
+    drueckeKuerzel("frmlana", "Alt+P");
+    EXPECT_EQ(lies("Bezeichnung5"), "Falsche Ziehungen: 0");
+    EXPECT_EQ(buehne.oeffner.entnehme(), QStringList());
+}
+
 TEST_F(Strukturbildschirm, EinKlickAufDieFehlerzeileFindetDieBeschreibung)
 {
     schreibe("MALOTTO.DAT", {"1986,23,01,02,03,04,05,06,00,0", "1986,24,01,02,03,04,05,55,00,0",
