@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/logic/Lottozahl.h"
+
 #include <bit>
 #include <cstdint>
 #include <span>
@@ -7,14 +9,12 @@
 /// A set of numbers 1..49: bit z stands for the number z.
 using Zahlenmenge = std::uint64_t;
 
-inline constexpr int kHoechsteZahl = 49;
-
 /// What is no number 1..49 is left out, and a number counts once: a row that a file holds wrongly is a smaller set.
 constexpr Zahlenmenge zahlenmenge(std::span<const std::int32_t> zahlen)
 {
     Zahlenmenge menge = 0;
     for (const std::int32_t zahl : zahlen)
-        if (zahl >= 1 && zahl <= kHoechsteZahl)
+        if (gibtEs(zahl))
             menge |= Zahlenmenge{1} << zahl;
     return menge;
 }

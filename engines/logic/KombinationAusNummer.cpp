@@ -2,6 +2,7 @@
 
 #include "archive/logic/Zahlenmenge.h"
 #include "shell/logic/Binomial.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <algorithm>
 

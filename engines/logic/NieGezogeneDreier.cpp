@@ -2,6 +2,7 @@
 
 #include "archive/logic/Ziehungsmengen.h"
 #include "engines/logic/Teilmengentafel.h"
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/Zahlen.h"
 
 #include <array>

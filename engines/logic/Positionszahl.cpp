@@ -1,5 +1,7 @@
 #include "engines/logic/Positionszahl.h"
 
+#include "shell/logic/Lottozahl.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -51,14 +53,14 @@ template <class Halt> void zaehleDurch(Halt halt)
 
 Positionszahl PositionszahlSumme(const Kombination& zahlen)
 {
-    if (std::any_of(zahlen.begin(), zahlen.end(), [](std::int32_t z) { return z < 1 || z > kHoechsteZahl; }))
+    if (std::any_of(zahlen.begin(), zahlen.end(), [](std::int32_t zahl) { return !gibtEs(zahl); }))
         return 0;
     const auto [z1, z2, z3, z4, z5, z6] = zahlen;
     Positionszahl p =
         uebergangene<5>(0, z1) + uebergangene<4>(z1, z2) + uebergangene<3>(z2, z3) + uebergangene<2>(z3, z4);
     // The last two steps are closed, so that they count backwards where the numbers do.
     if (z5 != z4 + 1)
-        p += (48 - z4) * (49 - z4) / 2 - (49 - z5) * (50 - z5) / 2;
+        p += (kHoechsteZahl - 1 - z4) * (kHoechsteZahl - z4) / 2 - (kHoechsteZahl - z5) * (kHoechsteZahl + 1 - z5) / 2;
     if (z6 != z5 + 1)
         p += z6 - (z5 + 1);
     return p + 1;

@@ -1,6 +1,7 @@
 #include "engines/logic/Trefferkern.h"
 
 #include "engines/logic/Blockrechner.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <algorithm>
 #include <bit>

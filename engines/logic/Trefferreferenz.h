@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/logic/Zahlenmenge.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <array>
 #include <cstddef>

@@ -2,6 +2,7 @@
 
 #include "engines/logic/Trefferkern.h"
 #include "shell/logic/Binomial.h"
+#include "shell/logic/Lottozahl.h"
 
 namespace {
 
@@ -41,7 +42,8 @@ public:
 
     template <class Zaehler> bool nimm(const Trefferblock<Zaehler>& block)
     {
-        std::array<Zaehler, static_cast<std::size_t>(Binomial(49, 2))> listen; // every entry of the block is written
+        std::array<Zaehler, static_cast<std::size_t>(Binomial(kHoechsteZahl, 2))>
+            listen; // every entry of the block is written
         if (bestimmeListen(block, listen.data())) {
             for (std::size_t i = 0; i < block.anzahl; ++i)
                 if (listen[i] != 0)
@@ -116,9 +118,10 @@ Treffersuche sucheTreffer(std::span<const Zahlenmenge> reihen, const Trefferschw
     suche.NurExakt = nurExakt;
     suche.AnzahlZiehungen = reihen.size();
     Sichtung sichtung(suche, fortschritt);
-    suche.gestoppt = !sichtung.beginne() || !Trefferkern(49, reihen).durchlaufe(6, 3, [&sichtung](const auto& block) {
-        return sichtung.nimm(block);
-    });
+    suche.gestoppt =
+        !sichtung.beginne() || !Trefferkern(kHoechsteZahl, reihen).durchlaufe(6, 3, [&sichtung](const auto& block) {
+            return sichtung.nimm(block);
+        });
     for (Trefferrang& liste : suche.listen)
         liste.ordne();
     return suche;

@@ -3,6 +3,7 @@
 #include "archive/logic/Ziehungsmengen.h"
 #include "engines/logic/VollsucheTexte.h"
 #include "shell/logic/Binomial.h"
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/Zahlen.h"
 
 #include <bit>

@@ -3,6 +3,7 @@
 #include "archive/logic/Zahlenmenge.h"
 #include "shell/logic/Binomial.h"
 #include "shell/logic/Format.h"
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/Texte.h"
 #include "shell/logic/Zahlen.h"
 

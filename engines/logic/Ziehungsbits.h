@@ -2,6 +2,7 @@
 
 #include "archive/logic/Zahlenmenge.h"
 #include "archive/logic/ZiehungsArchiv.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -26,7 +27,7 @@ public:
         }
     }
 
-    static bool hatSpalte(std::int32_t zahl) { return zahl >= 1 && zahl <= kHoechsteZahl; }
+    static bool hatSpalte(std::int32_t zahl) { return gibtEs(zahl); }
     /// Marks the draw `nr`, which counts from 1, in a column.
     static void setze(Wort* spalte, std::size_t nr) { spalte[nr / kBits] |= Wort{1} << nr % kBits; }
 

@@ -2,6 +2,7 @@
 
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Rahmen.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <QPushButton>
 

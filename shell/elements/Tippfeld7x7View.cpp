@@ -2,6 +2,7 @@
 
 #include "shell/elements/Farben.h"
 #include "shell/elements/Zelle.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -17,7 +18,7 @@ Tippfeld7x7View::Tippfeld7x7View(const QString& name, Art art, QWidget* eltern) 
     auto* gitter = new QGridLayout(this);
     gitter->setSpacing(kSteg);
     gitter->setContentsMargins(kSteg, kSteg, kSteg, kSteg);
-    for (int zahl = 1; zahl <= 49; ++zahl) {
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
         auto* zelle = new Zelle(QString("%1(%2)").arg(name).arg(zahl), QString::number(zahl), this);
         zelle->setFixedSize(kZellseite, kZellseite);
         if (art != Art::NurAnzeige)
@@ -50,7 +51,7 @@ void Tippfeld7x7View::klick(int zahl)
 
 void Tippfeld7x7View::frischeAuf()
 {
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         if (modell_.markiert(zahl) != gezeigt_.markiert(zahl))
             markiere(zellen_[static_cast<std::size_t>(zahl)], modell_.markiert(zahl));
     gezeigt_ = modell_;
@@ -80,7 +81,7 @@ void Tippfeld7x7View::keyPressEvent(QKeyEvent* ereignis)
         QWidget::keyPressEvent(ereignis);
         return;
     }
-    if (ziel >= 1 && ziel <= 49)
+    if (gibtEs(ziel))
         fokuszahl_ = ziel;
     update();
 }

@@ -2,6 +2,7 @@
 
 #include "shell/elements/Farben.h"
 #include "shell/elements/Stil.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -32,7 +33,7 @@ Zahlenblock::Zahlenblock(const QString& zahlen, const QString& werte, QWidget* e
     gitter->setContentsMargins(0, 0, 0, 0);
     gitter->setHorizontalSpacing(Stil::kAbstand);
     gitter->setVerticalSpacing(Stil::kEng);
-    for (int zahl = 1; zahl <= 49; ++zahl) {
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
         auto* wert = benannt(new QLabel(this), werte, zahl);
         wert->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         wert->setMinimumSize(kKleinstesFeld);
@@ -59,7 +60,7 @@ QString Zahlenblock::wert(int zahl) const
 
 void Zahlenblock::loescheFarben()
 {
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         faerbeWert(zahl, palette().color(QPalette::Base));
 }
 

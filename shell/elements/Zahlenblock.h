@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/logic/Lottozahl.h"
+
 #include <QWidget>
 
 #include <array>
@@ -22,5 +24,5 @@ public:
 private:
     QLabel* feld(int zahl) const { return werte_[static_cast<std::size_t>(zahl - 1)]; }
 
-    std::array<QLabel*, 49> werte_;
+    std::array<QLabel*, kHoechsteZahl> werte_;
 };

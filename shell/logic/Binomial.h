@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/logic/Lottozahl.h"
+
 #include <cstdint>
 
 /// Number of ways to take `k` of `n` things; 0 unless 0 <= k <= n. Exact for every n up to 49.
@@ -15,4 +17,4 @@ constexpr std::int64_t Binomial(int n, int k)
 
 /// All combinations of 6 aus 49.
 inline constexpr std::int32_t kKombinationen6aus49 = 13'983'816;
-static_assert(Binomial(49, 6) == kKombinationen6aus49);
+static_assert(Binomial(kHoechsteZahl, 6) == kKombinationen6aus49);

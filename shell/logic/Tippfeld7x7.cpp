@@ -1,9 +1,11 @@
 #include "shell/logic/Tippfeld7x7.h"
 
+#include "shell/logic/Lottozahl.h"
+
 std::vector<int> Tippfeld7x7::gewaehlte() const
 {
     std::vector<int> zahlen;
-    for (int zahl = 1; zahl <= kZahlen; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         if (markiert(zahl))
             zahlen.push_back(zahl);
     return zahlen;

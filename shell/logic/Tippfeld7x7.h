@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/logic/Lottozahl.h"
+
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
@@ -10,11 +12,9 @@
 /// A number outside 1..49 is never marked, and a click on it changes nothing.
 class Tippfeld7x7 {
 public:
-    static constexpr int kZahlen = 49;
     static constexpr int kJeZeile = 7;
     static constexpr int kFreieEingabe = 6; ///< most marks of a free entry
 
-    static constexpr bool gibtEs(int zahl) { return zahl >= 1 && zahl <= kZahlen; }
     /// Row 0..6 of a number 1..49: the first row holds 1 to 7.
     static constexpr int zeile(int zahl) { return (zahl - 1) / kJeZeile; }
     /// Column 0..6 of a number 1..49.
@@ -38,5 +38,5 @@ public:
 private:
     static constexpr std::size_t stelle(int zahl) { return static_cast<std::size_t>(zahl); }
 
-    std::bitset<kZahlen + 1> marken_; ///< [1..49]
+    std::bitset<kHoechsteZahl + 1> marken_; ///< [1..49]
 };

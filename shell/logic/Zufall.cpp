@@ -1,5 +1,7 @@
 #include "shell/logic/Zufall.h"
 
+#include "shell/logic/Lottozahl.h"
+
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -7,8 +9,6 @@
 #include <random>
 
 namespace {
-
-constexpr int kZahlen = 49;
 
 /// A counter that runs through all 64-bit states, with a strong mixing of its bits as output.
 constexpr std::uint64_t kSchritt = 0x9E3779B97F4A7C15U;
@@ -56,12 +56,12 @@ void Zufall::stelle(std::uint64_t seed)
 
 int lottozahl(double rnd)
 {
-    return static_cast<int>(kZahlen * rnd + 1);
+    return static_cast<int>(kHoechsteZahl * rnd + 1);
 }
 
 std::array<int, 6> sechsZahlen(Zufall& zufall)
 {
-    std::array<bool, kZahlen> vergeben{};
+    std::array<bool, kHoechsteZahl> vergeben{};
     std::array<int, 6> zahlen{};
     std::ranges::generate(zahlen, [&] {
         int zahl = lottozahl(zufall.Rnd());

@@ -1,6 +1,7 @@
 #include "statistics/logic/AbstandMaximum.h"
 
 #include "shell/logic/Format.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <algorithm>
 #include <array>
@@ -19,7 +20,7 @@ using Staende = std::array<Stand, 50>; // [1..49]
 
 void merke(Staende& staende, std::int32_t zahl, std::int32_t nr)
 {
-    if (zahl < 1 || zahl > 49)
+    if (!gibtEs(zahl))
         return;
     Stand& stand = staende[static_cast<std::size_t>(zahl)];
     if (nr - stand.vorher > stand.wochen) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/logic/Lottozahl.h"
 #include "statistics/logic/HaeufigkeitAuswertung.h"
 #include "statistics/logic/ZuletztVor.h"
 
@@ -25,9 +26,9 @@ struct Balkengraphik {
     static constexpr int kTiefsterKopf = 3860; ///< no bar begins below, so that one of height 0 stays visible
 
     Massstab massstab;
-    std::array<int, 49> oben{};       ///< top of each bar; index: number - 1
-    std::array<std::string, 5> skala; ///< "#0.00" from the head of the scale down to its foot
-    std::array<int, 5> linien{};      ///< height of the horizontal line of each scale text
+    std::array<int, kHoechsteZahl> oben{}; ///< top of each bar; index: number - 1
+    std::array<std::string, 5> skala;      ///< "#0.00" from the head of the scale down to its foot
+    std::array<int, 5> linien{};           ///< height of the horizontal line of each scale text
 };
 
 /// Scale from 0 to the highest count.

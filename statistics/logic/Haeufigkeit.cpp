@@ -1,5 +1,7 @@
 #include "statistics/logic/Haeufigkeit.h"
 
+#include "shell/logic/Lottozahl.h"
+
 #include <algorithm>
 #include <limits>
 #include <tuple>
@@ -67,7 +69,7 @@ Extremwerte extremwerte(const Haeufigkeit& haeufigkeit)
 {
     const auto [min, max] = std::minmax_element(haeufigkeit.anzahl.begin(), haeufigkeit.anzahl.end());
     Extremwerte extreme{.max = *max, .min = *min, .maxima = {}, .minima = {}};
-    for (int zahl = 1; zahl <= 49; ++zahl) {
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
         const std::int16_t anzahl = haeufigkeit.fuer(zahl);
         if (anzahl == extreme.max) {
             extreme.zahlMax = zahl;

@@ -2,6 +2,7 @@
 
 #include "archive/logic/ZiehungsArchiv.h"
 #include "shell/logic/Auswertebereich.h"
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/ZZModus.h"
 
 #include <array>
@@ -11,7 +12,7 @@
 
 /// How often each number was drawn in a range of draws.
 struct Haeufigkeit {
-    std::array<std::int16_t, 49> anzahl{}; ///< index: number - 1
+    std::array<std::int16_t, kHoechsteZahl> anzahl{}; ///< index: number - 1
     std::int32_t AusgewerteteZiehungen = 0;
     std::int32_t LetzteZiehung = 0; ///< ZiehungsNr of the last draw in the range, in the archive counted last; 0: none
     std::int32_t letztesSpieljahr = 0; ///< of the latest draw in the range, over all archives counted
@@ -34,8 +35,8 @@ void zaehleDazu(Haeufigkeit& summe, const ZiehungsArchiv& archiv, const Ziehungs
 struct Extremwerte {
     std::int16_t max = 0;
     std::int16_t min = 0;
-    int zahlMax = 49;
-    int zahlMin = 49;
+    int zahlMax = kHoechsteZahl;
+    int zahlMin = kHoechsteZahl;
     std::bitset<50> maxima; ///< [1..49]: all numbers with the highest count
     std::bitset<50> minima; ///< [1..49]: all numbers with the lowest count; with equal counts all 49 are in both
 };

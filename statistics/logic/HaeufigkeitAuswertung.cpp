@@ -2,6 +2,7 @@
 
 #include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Format.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <string_view>
 
@@ -99,7 +100,7 @@ Druckauftrag druckauftrag(const HaeufigkeitAuswertung& auswertung)
     auftrag.kopf = {std::string(kEinzugKopf, ' ') + "*** " + spielName(auswertung) + " ***", ueberschrift(auswertung),
                     std::string(kLeerzeile, ' ')};
     auftrag.folgekopf = auftrag.kopf;
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         auftrag.zeilen.push_back(druckzeile(zahl, auswertung.haeufigkeit.fuer(zahl)));
     return auftrag;
 }

@@ -1,5 +1,6 @@
 #include "archive/logic/Spielarttexte.h"
 #include "reports/frame/HtmlSeite.h"
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/Texte.h"
 #include "statistics/logic/Jahrestabelle.h"
 
@@ -23,7 +24,7 @@ HtmlZeilen stil()
 std::string kopfzeile()
 {
     std::string zeile = "<tr><th>GZ</th>";
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         zeile.append("<th>").append(zahl < 10 ? "&nbsp;" : "").append(std::to_string(zahl)).append("</th>");
     return zeile + "<th>GZ</th></tr>";
 }

@@ -1,6 +1,7 @@
 #include "statistics/logic/Wochenstatistik.h"
 
 #include "shell/logic/Format.h"
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/Zahlen.h"
 #include "statistics/logic/Spielwochen.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 void zaehle(Wochenstatistik& statistik, std::int32_t zahl)
 {
-    if (zahl >= 1 && zahl <= 49)
+    if (gibtEs(zahl))
         ++statistik.anzahl[static_cast<std::size_t>(zahl - 1)];
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/logic/ZiehungsArchiv.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <array>
 #include <cstdint>
@@ -20,8 +21,8 @@ struct Wochenziehung {
 struct Wochenstatistik {
     std::int32_t sw = 0; ///< 0: nothing evaluated yet
     bool mitZZ = false;
-    std::vector<Wochenziehung> ziehungen;  ///< oldest first
-    std::array<std::int32_t, 49> anzahl{}; ///< index: number - 1
+    std::vector<Wochenziehung> ziehungen;             ///< oldest first
+    std::array<std::int32_t, kHoechsteZahl> anzahl{}; ///< index: number - 1
 };
 
 /// Evaluates Spielwoche `sw`; one that no draw has gives no draws and all zeros. With `mitZZ` the Zusatzzahl counts

@@ -1,12 +1,14 @@
 #include "statistics/logic/Zahlentabelle.h"
 
+#include "shell/logic/Lottozahl.h"
+
 #include <algorithm>
 
 namespace {
 
 void zaehle(Zahlenzeile& zeile, std::int32_t zahl)
 {
-    if (zahl >= 1 && zahl <= 49)
+    if (gibtEs(zahl))
         ++zeile.zellen[static_cast<std::size_t>(zahl - 1)].anzahl;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/logic/ZiehungsArchiv.h"
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/ZZModus.h"
 
 #include <array>
@@ -21,8 +22,8 @@ struct Zahlenzelle {
 
 /// The counts of all numbers in one year or one week.
 struct Zahlenzeile {
-    std::int32_t schluessel = 0;          ///< the year or the week
-    std::array<Zahlenzelle, 49> zellen{}; ///< index: number - 1
+    std::int32_t schluessel = 0;                     ///< the year or the week
+    std::array<Zahlenzelle, kHoechsteZahl> zellen{}; ///< index: number - 1
 };
 
 /// The highest count of a table.

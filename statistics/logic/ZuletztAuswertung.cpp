@@ -1,5 +1,6 @@
 #include "statistics/logic/ZuletztAuswertung.h"
 
+#include "shell/logic/Lottozahl.h"
 #include "shell/logic/Texte.h"
 #include "shell/logic/Zahlen.h"
 
@@ -24,7 +25,7 @@ bool istGanzzahl(std::string_view text)
 std::bitset<50> mitDerWoche(const ZuletztAuswertung& auswertung, const std::string& jahrUndWoche)
 {
     std::bitset<50> zahlen;
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         zahlen[static_cast<std::size_t>(zahl)] = auswertung.fuer(zahl).jahrUndWoche == jahrUndWoche;
     return zahlen;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/logic/Lottozahl.h"
 #include "statistics/logic/ZuletztGezogen.h"
 
 #include <array>
@@ -21,9 +22,9 @@ struct LetztesAuftreten {
 
 /// When each number was drawn last, looking back from one draw.
 struct ZuletztAuswertung {
-    std::array<LetztesAuftreten, 49> auftreten; ///< index: number - 1
-    std::int16_t Spielart = SpielartStart;      ///< the game that was searched, for A+B the one it began with
-    bool mittwochAB = false;                    ///< both Wednesday games together
+    std::array<LetztesAuftreten, kHoechsteZahl> auftreten; ///< index: number - 1
+    std::int16_t Spielart = SpielartStart; ///< the game that was searched, for A+B the one it began with
+    bool mittwochAB = false;               ///< both Wednesday games together
     ZZModus ZaehlModus = ZZModus::Ohne;
     std::int32_t Suchbeginn = 1;   ///< ZiehungsNr of the first draw that was looked at
     std::int32_t Grenze = 0;       ///< ZiehungsNr that the look-back starts at; below 1: no draw was looked at

@@ -1,5 +1,7 @@
 #include "statistics/logic/ZuletztGezogen.h"
 
+#include "shell/logic/Lottozahl.h"
+
 #include <algorithm>
 
 namespace {
@@ -10,7 +12,7 @@ constexpr std::int32_t kSuchbeginnMittwoch = 241;
 /// Gives a number the draw it was met in, unless a later one has been met before. True if it is new.
 bool merke(ZuletztGezogen& letzte, std::int32_t zahl, std::int32_t nr)
 {
-    if (zahl < 1 || zahl > 49)
+    if (!gibtEs(zahl))
         return false;
     std::int32_t& eintrag = letzte[static_cast<std::size_t>(zahl - 1)];
     if (eintrag != 0)

@@ -2,6 +2,7 @@
 
 #include "archive/logic/Spielarttexte.h"
 #include "shell/logic/Format.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <algorithm>
 
@@ -48,7 +49,7 @@ ZuletztTafel zuletztTafel(const ZuletztAuswertung& auswertung, ZuletztAnsicht an
 {
     ZuletztTafel tafel;
     tafel.listenkoepfe = zuletztListenkoepfe(ansicht);
-    for (int zahl = 1; zahl <= 49; ++zahl) {
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
         const std::string text = zelle(auswertung, ansicht, zahl);
         const std::string& datum = auswertung.fuer(zahl).datum;
         tafel.zellen[static_cast<std::size_t>(zahl - 1)] = text;
@@ -92,7 +93,7 @@ Druckauftrag druckauftrag(const ZuletztAuswertung& auswertung, ZuletztAnsicht an
                                ") Stand: " + auswertung.stand + ", " + std::to_string(std::max(auswertung.Grenze, 0)) +
                                " Ziehungen -"};
     auftrag.folgekopf = {spiel, "  -- Wann zuletzt gezogen ? -- "};
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         auftrag.zeilen.push_back(druckzeile(zelle(auswertung, ansicht, zahl), ansicht, zahl));
     return auftrag;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/logic/Druckzeilen.h"
+#include "shell/logic/Lottozahl.h"
 #include "statistics/logic/ZuletztAuswertung.h"
 
 #include <array>
@@ -13,7 +14,7 @@ enum class ZuletztAnsicht { JahrUndWoche, Wochen };
 /// The texts of the screen for one evaluation. Of the two lists the first is sorted by number, the second by its text,
 /// which begins with the last draw.
 struct ZuletztTafel {
-    std::array<std::string, 49> zellen;             ///< index: number - 1
+    std::array<std::string, kHoechsteZahl> zellen;  ///< index: number - 1
     std::array<std::string, 2> listenkoepfe;        ///< the line above each of the lists
     std::array<std::vector<std::string>, 2> listen; ///< a line for each number, ascending
 };

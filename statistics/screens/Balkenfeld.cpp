@@ -2,6 +2,7 @@
 
 #include "shell/elements/Farben.h"
 #include "shell/elements/Utf8.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -19,7 +20,7 @@ Balkenfeld::Balkenfeld(QWidget* eltern) : QFrame(eltern)
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
-    for (int i = 0; i < 49; ++i) {
+    for (int i = 0; i < kHoechsteZahl; ++i) {
         auto* balken = new QFrame(this);
         balken->setObjectName(QString("Bild2(%1)").arg(i + 1));
         Bild2[static_cast<std::size_t>(i)] = balken;
@@ -67,14 +68,14 @@ int Balkenfeld::pixel(int twips) const
 QRect Balkenfeld::platz(int stelle, int obenTwips) const
 {
     const QRect platz = flaeche();
-    const int links = platz.left() + stelle * platz.width() / 49;
-    const int rechts = platz.left() + (stelle + 1) * platz.width() / 49;
+    const int links = platz.left() + stelle * platz.width() / kHoechsteZahl;
+    const int rechts = platz.left() + (stelle + 1) * platz.width() / kHoechsteZahl;
     return {QPoint(links + 2, pixel(obenTwips)), QPoint(rechts - 2, platz.bottom())};
 }
 
 void Balkenfeld::ordne()
 {
-    for (int i = 0; i < 49; ++i) {
+    for (int i = 0; i < kHoechsteZahl; ++i) {
         const auto stelle = static_cast<std::size_t>(i);
         Bild2[stelle]->setGeometry(platz(i, graphik_.oben[stelle]));
     }
@@ -101,7 +102,7 @@ void Balkenfeld::paintEvent(QPaintEvent* ereignis)
         maler.drawLine(platzFuerBalken.left(), pixel(linie), platzFuerBalken.right(), pixel(linie));
     maler.setPen(palette().color(QPalette::Text));
     const int zeile = fontMetrics().lineSpacing();
-    for (int i = 0; i < 49; ++i) {
+    for (int i = 0; i < kHoechsteZahl; ++i) {
         const QRect balken = platz(i, 0).adjusted(-8, 0, 8, 0);
         const int oben = platzFuerBalken.bottom() + 4 + (i % 2) * zeile;
         maler.drawText(QRect(balken.left(), oben, balken.width(), zeile), Qt::AlignCenter, QString::number(i + 1));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/logic/Lottozahl.h"
 #include "statistics/logic/Balkengraphik.h"
 
 #include <QFrame>
@@ -33,6 +34,6 @@ private:
     void ordne();
 
     Balkengraphik graphik_;
-    std::array<QFrame*, 49> Bild2;
+    std::array<QFrame*, kHoechsteZahl> Bild2;
     std::array<QLabel*, 5> skala_;
 };

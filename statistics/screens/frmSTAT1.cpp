@@ -9,6 +9,7 @@
 #include "shell/elements/Utf8.h"
 #include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
+#include "shell/logic/Lottozahl.h"
 #include "statistics/screens/frmGraph.h"
 
 #include <QGroupBox>
@@ -130,7 +131,7 @@ void frmSTAT1::zeigeErgebnis()
 {
     const Extremwerte extreme = extremwerte(ergebnis_.haeufigkeit);
     bezeichnung114->loescheFarben();
-    for (int zahl = 1; zahl <= 49; ++zahl) {
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
         const auto stelle = static_cast<std::size_t>(zahl);
         bezeichnung114->setzeWert(zahl, QString::number(ergebnis_.haeufigkeit.fuer(zahl)));
         if (extreme.maxima[stelle])

@@ -9,6 +9,7 @@
 #include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Format.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -187,7 +188,7 @@ void frmZuletzt::zeigeErgebnis()
         cmbZ->setCurrentIndex(ergebnis_.Grenze - 1);
     Bezeichnung1->loescheFarben();
     const ZuletztMarken marken = zuletztMarken(ergebnis_);
-    for (int zahl = 1; zahl <= 49; ++zahl) {
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
         if (marken.neueste[static_cast<std::size_t>(zahl)])
             Bezeichnung1->faerbeWert(zahl, kNeueste);
         if (marken.aelteste[static_cast<std::size_t>(zahl)])
@@ -205,7 +206,7 @@ void frmZuletzt::zeigeTafel(ZuletztAnsicht ansicht)
 {
     ansicht_ = ansicht;
     const ZuletztTafel tafel = zuletztTafel(ergebnis_, ansicht);
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         Bezeichnung1->setzeWert(zahl, qt(tafel.zellen[static_cast<std::size_t>(zahl - 1)]));
     for (std::size_t i = 0; i < lstB114.size(); ++i) {
         Label2[i]->setText(qt(tafel.listenkoepfe[i]));

@@ -2,6 +2,7 @@
 
 #include "archive/logic/ZiehungsArchiv.h"
 #include "archive/logic/Ziehungskalender.h"
+#include "shell/logic/Lottozahl.h"
 #include "tools/muster/Spielwoche.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@ using std::chrono::year;
 
 namespace {
 
-constexpr int kZahlen = 49;
 constexpr sys_days kOhneZusatzzahlAb = year{2013} / std::chrono::May / 4;
 constexpr sys_days kLetzteBZiehung = year{2000} / std::chrono::November / 29;
 constexpr std::size_t kSatzlaenge = std::string_view("jjjj,sw,z1,z2,z3,z4,z5,z6,zz,s\r\n").size();
@@ -57,11 +57,11 @@ bool hatSuperzahl(std::int16_t spielart, std::int32_t nr)
     return nr >= superzahlBeginn(spielart);
 }
 
-int zieheZahl(Musterzufall& zufall, std::bitset<kZahlen + 1>& gezogen)
+int zieheZahl(Musterzufall& zufall, std::bitset<kHoechsteZahl + 1>& gezogen)
 {
-    int zahl = zufall.unter(kZahlen) + 1;
+    int zahl = zufall.unter(kHoechsteZahl) + 1;
     while (gezogen.test(static_cast<std::size_t>(zahl)))
-        zahl = zufall.unter(kZahlen) + 1;
+        zahl = zufall.unter(kHoechsteZahl) + 1;
     gezogen.set(static_cast<std::size_t>(zahl));
     return zahl;
 }
@@ -75,7 +75,7 @@ void haengeZweistelligAn(std::string& datei, int wert)
 
 void haengeZiehungAn(std::string& datei, Musterzufall& zufall, std::int16_t spielart, std::int32_t nr)
 {
-    std::bitset<kZahlen + 1> gezogen;
+    std::bitset<kHoechsteZahl + 1> gezogen;
     std::array<int, 6> gewinnzahlen{};
     for (int& zahl : gewinnzahlen)
         zahl = zieheZahl(zufall, gezogen);
