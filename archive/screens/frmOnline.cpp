@@ -64,6 +64,11 @@ frmOnline::frmOnline(Umgebung& umgebung)
     }));
     // clang-format on
 
+    hauptaktionen({cmdStart[1], cmdStart[2], cmdStart[0]});
+    enterDrueckt(txtSa, cmdStart[1]);
+    enterDrueckt(txtMa, cmdStart[2]);
+    enterDrueckt(txtURL, cmdStart[0]);
+
     bei(cmdStart[0], [this] { starte(Onlineaufgabe::Zip); });
     bei(cmdStart[1], [this] { starte(Onlineaufgabe::Samstag); });
     bei(cmdStart[2], [this] { starte(Onlineaufgabe::Mittwoch); });

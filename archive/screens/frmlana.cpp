@@ -75,6 +75,8 @@ frmlana::frmlana(Umgebung& umgebung)
     }));
     // clang-format on
 
+    hauptaktionen({Befehl2});
+
     bei(Befehl1, [this] { schliesse(); });
     bei(Befehl2, [this] { pruefe(); });
     bei(Befehl3, [this] {

@@ -46,6 +46,8 @@ Vollsuchbildschirm::Vollsuchbildschirm(Umgebung& umgebung, const QString& name, 
     baueStart();
     baueErgebnis();
     setzeInhalt(anordnung());
+    hauptaktionen({cmdKombiSuche.begin(), cmdKombiSuche.end()});
+    stoppknopf(Befehl5);
 
     for (int groesse = kKleinste; groesse <= kGroesste; ++groesse)
         bei(cmdKombiSuche[static_cast<std::size_t>(groesse - kKleinste)], [this, groesse] { suche(groesse); });
@@ -231,6 +233,7 @@ void Vollsuchbildschirm::beende()
         AddItem(&Liste3->modell(), std::string(kKeineSechser));
     anzeige_->beende(ergebnis_);
     sperre(false);
+    zeigeGelaufen(cmdKombiSuche[static_cast<std::size_t>(ergebnis_.groesse - kKleinste)]);
     setzeTitel(grundtitel());
 }
 

@@ -101,6 +101,7 @@ void WiederholungsBildschirm::baueFelder()
         bei(neu.suchen, [this, k = neu.k] { suche(k); });
         bei(neu.details, [this, &neu] { ZeigeDetails(neu); });
     }
+    hauptaktionen({feld(2).suchen, feld(3).suchen, feld(4).suchen, feld(5).suchen, feld(6).suchen});
 }
 
 QLayout* WiederholungsBildschirm::feldblock(Feld& hier)

@@ -158,8 +158,8 @@ void frmAlleKombis::verbinde()
     List1->beiAuswahl = [this] { ZeigeTreffer(); };
     FrameZ->beiWechsel = [this] { wechsleSpielarten(); };
     connect(ComboSZ, &QComboBox::currentTextChanged, this, [this] { wechsleSuperzahl(); });
-    connect(Text1, &QLineEdit::returnPressed, this, [this] { sucheKombination(); });
-    connect(txtV, &QLineEdit::returnPressed, this, [this] { sucheNummer(); });
+    enterDrueckt(Text1, cmdKombisearch);
+    enterDrueckt(txtV, Command);
     bei(cmdKombisearch, [this] { sucheKombination(); });
     bei(Command, [this] { sucheNummer(); });
     bei(cmdInfo, [this] { umgebung().boxen.info(kInfotitel, kInfo); });

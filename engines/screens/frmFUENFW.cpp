@@ -73,6 +73,7 @@ frmFÜNFW::frmFÜNFW(Umgebung& umgebung)
     }));
     // clang-format on
 
+    stoppknopf(Befehl14);
     bei(Befehl14, [this] {
         SucheAbbruch = true;
         Befehl2->setEnabled(true);

@@ -48,6 +48,7 @@ frmPOSKOM::frmPOSKOM(Umgebung& umgebung) : Bildschirm(umgebung, "frmPOSKOM", kTi
     automatik_ = new AutomatischeAnzeige(cmdAuto, {.ein = "&E", .aus = "&A"}, this);
 
     ordneAn();
+    hauptaktionen({Befehl1, Befehl2});
 
     automatik_->fuehre(Liste1, AutomatischeAnzeige::NachLoslassen::Immer);
     automatik_->fuehre(Liste2, AutomatischeAnzeige::NachLoslassen::NurEingeschaltet);
@@ -125,6 +126,7 @@ void frmPOSKOM::waehleUmfang()
 void frmPOSKOM::leereListen()
 {
     ergebnis_ = {};
+    zeigeGelaufen(nullptr);
     Liste1->modell().Clear();
     Liste2->modell().Clear();
     Label4->clear();
@@ -153,6 +155,7 @@ void frmPOSKOM::listeAuf(Liste* gezeigte)
     Liste1->modell().fuelle(ergebnis_.zeilen);
     Liste2->modell().fuelle(ergebnis_.zeilen);
     Label4->setText(qt(ergebnis_.anzahlText()));
+    zeigeGelaufen(gezeigte == Liste1 ? Befehl1 : Befehl2);
 }
 
 void frmPOSKOM::zeigeZiehung(const Liste& liste)

@@ -93,6 +93,8 @@ frmTreffer::frmTreffer(Umgebung& umgebung)
         })),
     }));
     // clang-format on
+    hauptaktionen({Command1});
+    stoppknopf(cmdAbbruch);
     verbinde();
 }
 

@@ -20,13 +20,13 @@ public:
 
     void mausUeber(QWidget* feld) override;
     bool kehrtZumMenueZurueck() const override { return false; }
+    /// Esc leaves a tool, but not the program.
+    bool schliesstMitEsc() const override { return false; }
 
 protected:
     void beimSchliessen() override;
     void zeigeStatus(const QString& text) override;
     void paintEvent(QPaintEvent* ereignis) override;
-    /// Esc leaves a tool, but not the program.
-    void keyPressEvent(QKeyEvent* ereignis) override { QWidget::keyPressEvent(ereignis); }
 
 private:
     Knopfwand* baueWand(const std::vector<std::vector<Menuegruppe>>& spalten, const QString& gruppenname);

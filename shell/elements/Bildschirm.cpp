@@ -101,9 +101,7 @@ template <class Feld> Feld* Bildschirm::benannt(Feld* feld, const QString& name,
 
 QPushButton* Bildschirm::befehl(const QString& name, const QString& text, const Hinweis& hinweis)
 {
-    auto* knopf = benannt(new QPushButton(text, this), name, hinweis);
-    knopf->setAutoDefault(true);
-    return knopf;
+    return benannt(new QPushButton(text, this), name, hinweis);
 }
 
 QLabel* Bildschirm::bezeichnung(const QString& name, const QString& text)
@@ -177,6 +175,8 @@ void Bildschirm::showEvent(QShowEvent* ereignis)
 {
     if (!fokusGeordnet_) {
         ordneFokus(*this);
+        if (QPushButton* haupt = tastatur_.hauptaktionen.knopf())
+            haupt->setFocus();
         fokusGeordnet_ = true;
     }
     QWidget::showEvent(ereignis);
@@ -184,9 +184,7 @@ void Bildschirm::showEvent(QShowEvent* ereignis)
 
 void Bildschirm::keyPressEvent(QKeyEvent* ereignis)
 {
-    if (ereignis->key() == Qt::Key_Escape)
-        close();
-    else
+    if (!tastatur_.nimm(*ereignis))
         QWidget::keyPressEvent(ereignis);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/elements/Bloecke.h"
+#include "shell/elements/Tastatur.h"
 #include "shell/elements/Umgebung.h"
 #include "shell/logic/ListenModell.h"
 
@@ -8,6 +9,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 class Liste;
 class QAbstractButton;
@@ -76,6 +78,8 @@ public:
     void schliesse() { close(); }
     /// True if closing this screen brings the selection menu back.
     virtual bool kehrtZumMenueZurueck() const { return true; }
+    /// True if Esc leaves this screen.
+    virtual bool schliesstMitEsc() const { return true; }
 
 protected:
     Bildschirm(Umgebung& umgebung, const QString& name, const QString& titel);
@@ -105,6 +109,16 @@ protected:
     /// Makes the labels of a control array.
     template <std::size_t N> void feld(std::array<QLabel*, N>& felder, const QString& name, Ab ab = {});
 
+    /// The start buttons of the tool, the usual one first. Enter in a field and F5 press the one that was pressed last,
+    /// at first the first one, on which the first focus lies.
+    void hauptaktionen(const std::vector<QPushButton*>& startknoepfe) { tastatur_.hauptaktionen.setze(startknoepfe); }
+    /// Marks the start button that has made what the screen shows; null marks none.
+    void zeigeGelaufen(const QPushButton* startknopf) { tastatur_.hauptaktionen.zeigeGelaufen(startknopf); }
+    /// Enter in this field presses a button of its own instead.
+    void enterDrueckt(const QWidget* feld, QPushButton* knopf) { tastatur_.enterknoepfe[feld] = knopf; }
+    /// The button that stops a run; Esc presses it.
+    void stoppknopf(QPushButton* knopf) { tastatur_.stoppknopf = knopf; }
+
     /// Calls `tue` on every click.
     static void bei(QAbstractButton* knopf, const std::function<void()>& tue);
     /// Calls `tue` when the user takes an entry.
@@ -121,6 +135,7 @@ private:
     void gehe();
 
     Umgebung& umgebung_;
+    Tastatur tastatur_{*this};
     QString grundtitel_;
     QString stand_; ///< the title without a hint over it
     QLabel* statuszeile_ = nullptr;

@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QPushButton>
 
 QPalette Farben::palette()
 {
@@ -30,6 +31,14 @@ void faerbe(QWidget* feld, const QColor& grund, const QColor& schrift)
     p.setColor(flaeche->foregroundRole(), schrift);
     feld->setPalette(p);
     feld->setAutoFillBackground(true);
+}
+
+void hebeHervor(QPushButton* knopf, bool hervorgehoben)
+{
+    QPalette p;
+    if (hervorgehoben)
+        p.setColor(QPalette::Button, Farben::Gelaufen);
+    knopf->setPalette(p);
 }
 
 void markiere(QWidget* feld, bool markiert)

@@ -3,6 +3,7 @@
 #include <QColor>
 
 class QPalette;
+class QPushButton;
 class QWidget;
 
 /// The colours that mean something in the program. Everything else is the palette's.
@@ -13,6 +14,7 @@ inline const QColor Hoechstwert{255, 0, 0};  ///< red: a highest count
 inline const QColor Text{0, 0, 0};
 inline const QColor Fuss{0, 22, 0}; ///< the dark bar at the foot of every screen
 inline const QColor FussText{198, 232, 198};
+inline const QColor Gelaufen{178, 220, 192}; ///< the start button that has made what the screen shows
 
 /// The one light palette of the program, so that told colours are readable on dark desktops too.
 QPalette palette();
@@ -20,6 +22,9 @@ QPalette palette();
 
 /// Gives a widget its own background and text colour.
 void faerbe(QWidget* feld, const QColor& grund, const QColor& schrift);
+
+/// Marks a button by its ground, or takes the mark away.
+void hebeHervor(QPushButton* knopf, bool hervorgehoben);
 
 /// Marks a cell (cyan, red, bold) or takes the mark away (the palette's base, black).
 void markiere(QWidget* feld, bool markiert);

@@ -3,7 +3,6 @@
 #include "shell/elements/Bloecke.h"
 #include "shell/elements/Stil.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -54,12 +53,4 @@ void Infotafel::zeige()
     show();
     raise();
     ok_->setFocus();
-}
-
-void Infotafel::keyPressEvent(QKeyEvent* ereignis)
-{
-    if (ereignis->key() == Qt::Key_Escape)
-        hide();
-    else
-        QFrame::keyPressEvent(ereignis);
 }

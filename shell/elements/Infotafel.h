@@ -21,10 +21,6 @@ public:
     /// Shows it in the middle of the screen, which grows if it is too small.
     void zeige();
 
-protected:
-    /// Esc puts the frame away and leaves the screen open.
-    void keyPressEvent(QKeyEvent* ereignis) override;
-
 private:
     QPushButton* ok_;
 };

@@ -2,6 +2,7 @@
 
 #include "shell/elements/Farben.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -22,6 +23,15 @@ public:
     {
         const QSize platz = QProxyStyle::sizeFromContents(art, option, inhalt, feld);
         return art == CT_PushButton ? platz.expandedTo(QSize(inhalt.width() + kKnopfrand, 0)) : platz;
+    }
+
+    /// A letter is underlined where Alt and that letter press the button.
+    int styleHint(StyleHint art, const QStyleOption* option, const QWidget* feld,
+                  QStyleHintReturn* daten) const override
+    {
+        const auto* knopf = qobject_cast<const QAbstractButton*>(feld);
+        const bool ohneKuerzel = art == SH_UnderlineShortcut && knopf && knopf->shortcut().isEmpty();
+        return ohneKuerzel ? 0 : QProxyStyle::styleHint(art, option, feld, daten);
     }
 
 private:

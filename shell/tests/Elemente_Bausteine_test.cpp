@@ -1,17 +1,15 @@
-#include "shell/elements/Bildschirm.h"
 #include "shell/elements/Farben.h"
 #include "shell/elements/Infotafel.h"
 #include "shell/elements/Rahmen.h"
 #include "shell/elements/ZZModusOptionen.h"
 #include "shell/elements/Zahlenblock.h"
-#include "testhilfen/Buehnentest.h"
+#include "shell/tests/Rohbau.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <functional>
 #include <gmock/gmock.h>
 
 namespace {
@@ -19,31 +17,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A screen that a test furnishes.
-class Rohbau final : public Bildschirm {
-public:
-    using Einrichtung = std::function<QLayout*(Rohbau&)>;
-
-    Rohbau(Umgebung& umgebung, const Einrichtung& einrichtung) : Bildschirm(umgebung, "frmProbe", "Probe")
-    {
-        setzeInhalt(einrichtung(*this));
-    }
-
-    using Bildschirm::bezeichnung;
-    using Bildschirm::clipBefehl;
-    using Bildschirm::rahmen;
-};
-
-class ElementBaustein : public Buehnentest {
-protected:
-    Bildschirm& zeige(const Rohbau::Einrichtung& einrichtung)
-    {
-        buehne.bildschirme.registriere("frmProbe",
-                                       [einrichtung](Umgebung& u) { return std::make_unique<Rohbau>(u, einrichtung); });
-        oeffne("frmProbe");
-        return *buehne.bildschirme.geladen("frmProbe");
-    }
-};
+using ElementBaustein = Rohbautest;
 
 TEST_F(ElementBaustein, DieZZOptionenHabenEinenPresetUndMeldenJedeWahl)
 {
