@@ -3,7 +3,7 @@
 #include "engines/logic/KombinationAusNummer.h"
 #include "engines/logic/Kombinationsseite.h"
 #include "engines/logic/Trefferliste.h"
-#include "engines/tests/ZaehlerReferenz.h"
+#include "testhilfen/ZaehlerReferenz.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

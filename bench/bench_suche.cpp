@@ -1,7 +1,7 @@
 #include "bench/Archive.h"
 #include "bench/Messlauf.h"
-#include "engines/tests/VollsucheReferenz.h"
 #include "shell/logic/Binomial.h"
+#include "testhilfen/VollsucheReferenz.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdio>

@@ -1,7 +1,7 @@
 #include "bench/Archive.h"
 #include "engines/logic/NieGezogeneDreier.h"
 #include "engines/logic/WiederholungDetails.h"
-#include "engines/tests/WiederholungenReferenz.h"
+#include "testhilfen/WiederholungenReferenz.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

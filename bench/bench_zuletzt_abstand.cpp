@@ -3,7 +3,7 @@
 #include "statistics/logic/AbstandListe.h"
 #include "statistics/logic/AbstandMaximum.h"
 #include "statistics/logic/ZuletztTafel.h"
-#include "statistics/tests/AbstandReferenz.h"
+#include "testhilfen/AbstandReferenz.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdio>

@@ -98,26 +98,23 @@ private:
     void sucheZeilen(int gewaehlte)
     {
         Ebene& ebene = ebenen_[stelle(gewaehlte)];
-        std::array<const Zaehler**, 6> ziel{};
-        std::array<const Zaehler*, 6> leer{};
-        for (std::size_t j = 2; j <= kGroesste; ++j) {
-            ziel[j] = ebene.zeilen[j].data();
-            leer[j] = tafelende_[j] - paare(gewaehlte);
-        }
+        ebene.zeilenzahl = {};
+        const auto merke = [this, &ebene](std::size_t j, std::int32_t vomEnde) {
+            ebene.zeilen[j][ebene.zeilenzahl[j]++] = tafelende_[j] - vomEnde;
+        };
         const auto& zahl = block_.anfang;
-        *ziel[2]++ = leer[2];
+        const std::int32_t ab2 = paare(gewaehlte);
+        merke(2, ab2);
         for (std::size_t c = 0; c < stelle(gewaehlte); ++c) {
-            const std::int32_t ab3 = tafel_.gewicht(3, zahl[c]);
-            *ziel[3]++ = leer[3] - ab3;
+            const std::int32_t ab3 = ab2 + tafel_.gewicht(3, zahl[c]);
+            merke(3, ab3);
             for (std::size_t b = 0; b < c; ++b) {
                 const std::int32_t ab4 = ab3 + tafel_.gewicht(4, zahl[b]);
-                *ziel[4]++ = leer[4] - ab4;
+                merke(4, ab4);
                 for (std::size_t a = 0; a < b; ++a)
-                    *ziel[5]++ = leer[5] - ab4 - tafel_.gewicht(5, zahl[a]);
+                    merke(5, ab4 + tafel_.gewicht(5, zahl[a]));
             }
         }
-        for (std::size_t j = 2; j <= kGroesste; ++j)
-            ebene.zeilenzahl[j] = static_cast<std::size_t>(ziel[j] - ebene.zeilen[j].data());
     }
 
     /// Takes `zahl` for the next one: what it would have added is fixed, and to what another one would add come the
@@ -134,7 +131,7 @@ private:
                 typename Vektoren<Zaehler>::Vektor summe{};
                 Vektoren<Zaehler>::addiere(summe, &bisher.je[j][stelle(weitere)]);
                 for (std::size_t r = 0; r < bisher.zeilenzahl[j]; ++r)
-                    Vektoren<Zaehler>::addiere(summe, bisher.zeilen[j][r] + zeilenort + weitere);
+                    Vektoren<Zaehler>::addiere(summe, bisher.zeilen[j][r] + (zeilenort + weitere));
                 std::memcpy(&neu.je[j][stelle(weitere)], &summe, sizeof summe);
             }
         }
@@ -166,8 +163,7 @@ private:
             for (; ganze_ != tafel_.ganze().end() && ganze_->nummer - block_.nummer < block_.anzahl; ++ganze_) {
                 for (std::size_t h = Ab; h <= 6; ++h) {
                     Zaehler& n = treffer_[h][ganze_->nummer - block_.nummer];
-                    n = static_cast<Zaehler>(n + static_cast<Zaehler>(umkehrfaktor(6, h)) *
-                                                     static_cast<Zaehler>(ganze_->anzahl));
+                    n = static_cast<Zaehler>(n + static_cast<std::uint32_t>(umkehrfaktor(6, h)) * ganze_->anzahl);
                 }
             }
         }

@@ -48,7 +48,7 @@ public:
     /// is used again for the next block. The visitor returns false to stop; then the walk returns false too.
     template <class Besucher> bool durchlaufe(int k, int ab, Besucher&& besucher) const
     {
-        return laufe(k, ab, besucher, besucher);
+        return laufe(k, ab, std::ref(besucher), std::ref(besucher));
     }
 
     /// True if counts are kept in 16 bits: then they fit, whatever the combination.

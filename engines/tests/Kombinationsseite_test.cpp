@@ -2,8 +2,8 @@
 #include "engines/logic/Kombinationsseite.h"
 #include "engines/logic/Trefferliste.h"
 #include "engines/tests/Trefferarchiv.h"
-#include "engines/tests/ZaehlerReferenz.h"
 #include "shell/logic/Zahlen.h"
+#include "testhilfen/ZaehlerReferenz.h"
 
 #include <gtest/gtest.h>
 

@@ -4,6 +4,7 @@
 #include "shell/logic/Binomial.h"
 
 #include <gtest/gtest.h>
+#include <random>
 #include <type_traits>
 
 namespace {
@@ -158,6 +159,106 @@ TEST(Trefferkern, GrenzeZwischenSchmalUndBreit)
         });
         EXPECT_EQ(sechser, anzahl);
     }
+}
+
+/// Rows of two numbers: `anzahl` times each pair.
+std::vector<Zahlenmenge> paarreihen(const std::vector<std::array<int, 2>>& paare, std::size_t anzahl)
+{
+    std::vector<Zahlenmenge> reihen;
+    for (const auto& paar : paare)
+        reihen.insert(reihen.end(), anzahl, zahlenmenge(paar));
+    return reihen;
+}
+
+/// Rows that share exactly two numbers with a combination, by both ways to go; the width must be told right.
+void pruefeZweier(const std::vector<Zahlenmenge>& reihen, std::uint32_t nummer, std::size_t erwartet, bool schmal)
+{
+    for (const Befehlssatz befehlssatz : befehlssaetze()) {
+        const Trefferkern kern(49, reihen, befehlssatz);
+        EXPECT_EQ(kern.schmal(), schmal);
+        std::size_t zweier = 0;
+        kern.durchlaufe(6, 2, [&](const auto& block) {
+            if (nummer - block.nummer >= block.anzahl)
+                return true;
+            zweier = block.treffer[2][nummer - block.nummer];
+            return false;
+        });
+        EXPECT_EQ(zweier, erwartet);
+    }
+}
+
+TEST(Trefferkern, MehrReihenAlsSechzehnBitZaehlenSolangeSieWenigTeilen)
+{
+    constexpr std::size_t kGrenze = 65'535;
+    constexpr std::uint32_t kErste = 0; // 1 2 3 4 5 6
+    auto gerade = paarreihen({{1, 2}}, kGrenze);
+    gerade.push_back(zahlenmenge(std::array{3}));
+    pruefeZweier(gerade, kErste, kGrenze, true);
+    pruefeZweier(paarreihen({{1, 2}}, kGrenze + 1), kErste, kGrenze + 1, false);
+    pruefeZweier(paarreihen({{1, 2}, {3, 4}, {5, 6}}, kGrenze / 3), kErste, kGrenze, true);
+    pruefeZweier(paarreihen({{1, 2}, {3, 4}, {5, 6}}, kGrenze / 3 + 1), kErste, kGrenze + 3, false);
+}
+
+TEST(Trefferkern, DieHaeufigstenSechsZahlenBestimmenDieBreite)
+{
+    constexpr std::uint32_t kNummer = 43; // 1 2 3 4 5 49
+    constexpr std::size_t kJedes = 21'845;
+    auto reihen = paarreihen({{6, 7}, {1, 2}, {3, 4}, {5, 49}}, kJedes);
+    pruefeZweier(reihen, kNummer, 3 * kJedes, true);
+    const auto weitere = paarreihen({{1, 2}, {3, 4}, {5, 49}}, 1);
+    reihen.insert(reihen.end(), weitere.begin(), weitere.end());
+    pruefeZweier(reihen, kNummer, 3 * kJedes + 3, false);
+}
+
+TEST(Trefferkern, SoVieleGleicheReihenDassIhrVielfachesKeineGanzeZahlIst)
+{
+    constexpr std::size_t kGleiche = 32'778; // times a factor in 16 bits it passes 2^31
+    const auto eine = zahlenmenge(std::array{1, 2, 3, 4, 5, 6});
+    for (const Befehlssatz befehlssatz : befehlssaetze()) {
+        Trefferkern(49, std::vector<Zahlenmenge>(kGleiche, eine), befehlssatz).durchlaufe(6, 2, [&](const auto& block) {
+            EXPECT_EQ(block.treffer[6][0], kGleiche);
+            for (const std::size_t h : {2U, 3U, 4U, 5U})
+                EXPECT_EQ(block.treffer[h][0], 0U);
+            EXPECT_EQ(block.treffer[5][1], kGleiche);
+            return false;
+        });
+    }
+}
+
+TEST(Trefferkern, WenigeZahlen)
+{
+    std::mt19937 zufall(4);
+    for (int n = 2; n <= 6; ++n) {
+        std::vector<Zahlenmenge> reihen;
+        for (int i = 0; i < 20; ++i)
+            reihen.push_back(zufallsmenge(zufall, n, static_cast<int>(zufall() % static_cast<unsigned>(n)) + 1));
+        for (const Befehlssatz befehlssatz : befehlssaetze())
+            for (int k = 2; k <= 6; ++k)
+                pruefe(n, k, 2, reihen, befehlssatz);
+    }
+}
+
+/// It keeps a count of its own and cannot be copied.
+class Mitzaehler {
+public:
+    Mitzaehler() = default;
+    Mitzaehler(const Mitzaehler&) = delete;
+    Mitzaehler& operator=(const Mitzaehler&) = delete;
+
+    bool operator()(const auto& block)
+    {
+        kombinationen += block.anzahl;
+        return true;
+    }
+
+    std::size_t kombinationen = 0;
+};
+
+TEST(Trefferkern, DerBesucherBleibtDerselbe)
+{
+    Mitzaehler besucher;
+    EXPECT_TRUE(Trefferkern(10, {}).durchlaufe(4, 2, besucher));
+    EXPECT_EQ(besucher.kombinationen, 210U);
 }
 
 TEST(Trefferkern, EndetAufWunsch)

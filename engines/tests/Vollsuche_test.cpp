@@ -1,6 +1,6 @@
-#include "engines/tests/VollsucheReferenz.h"
 #include "shell/logic/Binomial.h"
 #include "testhilfen/ArchivAus.h"
+#include "testhilfen/VollsucheReferenz.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "engines/logic/Wiederholungen.h"
-#include "engines/tests/WiederholungenReferenz.h"
 #include "testhilfen/ArchivAus.h"
+#include "testhilfen/WiederholungenReferenz.h"
 
 #include <algorithm>
 #include <chrono>

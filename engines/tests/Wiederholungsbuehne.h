@@ -2,7 +2,7 @@
 
 #include "engines/screens/WiederholungsBildschirm.h"
 #include "engines/tests/Suchtest.h"
-#include "engines/tests/WiederholungenReferenz.h"
+#include "testhilfen/WiederholungenReferenz.h"
 
 #include <QCoreApplication>
 

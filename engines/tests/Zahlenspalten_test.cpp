@@ -2,7 +2,7 @@
 #include "engines/logic/Trefferliste.h"
 #include "engines/logic/Zahlenspalten.h"
 #include "engines/tests/Trefferarchiv.h"
-#include "engines/tests/ZaehlerReferenz.h"
+#include "testhilfen/ZaehlerReferenz.h"
 
 #include <gtest/gtest.h>
 #include <limits>

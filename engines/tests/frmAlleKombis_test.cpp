@@ -2,11 +2,11 @@
 #include "engines/logic/Trefferliste.h"
 #include "engines/screens/frmAlleKombis.h"
 #include "engines/tests/Suchtest.h"
-#include "engines/tests/ZaehlerReferenz.h"
 #include "listcontrol/screens/ListView.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Zahlen.h"
+#include "testhilfen/ZaehlerReferenz.h"
 
 #include <QCoreApplication>
 #include <QScrollBar>

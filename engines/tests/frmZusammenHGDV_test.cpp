@@ -1,6 +1,6 @@
 #include "engines/screens/frmZusammenHGDV.h"
 #include "engines/tests/Suchtest.h"
-#include "engines/tests/VollsucheReferenz.h"
+#include "testhilfen/VollsucheReferenz.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "statistics/logic/AbstandAuswertung.h"
 #include "statistics/logic/AbstandMaximum.h"
-#include "statistics/tests/AbstandReferenz.h"
+#include "testhilfen/AbstandReferenz.h"
 #include "testhilfen/EchteDaten.h"
 
 #include <algorithm>
