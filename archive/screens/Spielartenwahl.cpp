@@ -1,7 +1,6 @@
 #include "archive/screens/Spielartenwahl.h"
 
 #include "archive/logic/ZiehungsArchiv.h"
-#include "archive/screens/Spielartlader.h"
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Bloecke.h"
 #include "shell/elements/Utf8.h"
@@ -14,6 +13,8 @@ namespace {
 
 constexpr std::array kBits{1, 2, 4};
 constexpr std::array kNamen{"Samstagslotto ", "Mittwochslotto ", "Mittwochslotto(B)"};
+
+const Spielartenstand kOhneZiehungen{"-", "-", "-"};
 
 } // namespace
 
@@ -99,21 +100,19 @@ void Spielartenwahl::wechsle(QCheckBox& kasten)
 
 void Spielartenwahl::lade()
 {
-    zeigeStand(qt(ladeSpielarten(bildschirm_.umgebung(), maske())));
+    zeigeStand(ladeSpielarten(bildschirm_.umgebung(), maske()).value_or(kOhneZiehungen));
     lblTipp->setText("Anzahl der auszuwertenden Ziehugen: " +
                      QString::number(bildschirm_.umgebung().archiv.AnzahlZiehungen));
 }
 
-/// A load that failed tells nothing of any file.
-void Spielartenwahl::zeigeStand(const QString& felder)
+void Spielartenwahl::zeigeStand(const Spielartenstand& stand)
 {
-    const QStringList teile = felder.split(':');
     for (std::size_t i = 0; i < lblZ.size(); ++i)
-        lblZ[i]->setText(teile.size() == 3 ? teile[static_cast<qsizetype>(i)] : "-");
+        lblZ[i]->setText(qt(stand[i]));
 }
 
 void Spielartenwahl::zeigeNichts()
 {
-    zeigeStand({});
+    zeigeStand(kOhneZiehungen);
     lblTipp->setText("Anzahl der auszuwertenden Ziehungen: 0");
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "archive/screens/Spielartlader.h"
 #include "shell/elements/Rahmen.h"
 
 #include <array>
@@ -21,6 +22,7 @@ struct SpielartenwahlNamen {
 /// The games that a combined tool takes in: a box each (`chkArt(0)` to `chkArt(2)`, all ticked at first), beside it
 /// what its file holds (`lblZ(0)` to `lblZ(2)`), below them the count of all their draws. The combined archive is
 /// loaded at the start and on every change of a box; while an evaluation of the screen runs, a box cannot be changed.
+/// If the file of a ticked box is missing, the archive counts no draws until the boxes change.
 class Spielartenwahl final : public Rahmen {
 public:
     explicit Spielartenwahl(Bildschirm& bildschirm, const SpielartenwahlNamen& namen = {});
@@ -47,7 +49,7 @@ public:
 private:
     void lade();
     void wechsle(QCheckBox& kasten);
-    void zeigeStand(const QString& felder);
+    void zeigeStand(const Spielartenstand& stand);
     void zeigeNichts();
 
     Bildschirm& bildschirm_;

@@ -2,13 +2,27 @@
 
 #include "archive/logic/Ziehungsdatei.h"
 #include "shell/elements/Umgebung.h"
+#include "shell/logic/Texte.h"
 
-std::string ladeSpielarten(Umgebung& umgebung, int maske)
+#include <algorithm>
+#include <vector>
+
+std::optional<Spielartenstand> ladeSpielarten(Umgebung& umgebung, int maske)
 {
-    return LadeAlleZiehungen(umgebung.archiv, maske, [&umgebung](const std::string& text) {
-        umgebung.boxen.info(kProgrammtitel, QString::fromStdString(text));
-        return false;
-    });
+    const std::vector<std::string> felder =
+        teile(LadeAlleZiehungen(umgebung.archiv, maske,
+                                [&umgebung](const std::string& text) {
+                                    umgebung.boxen.info(kProgrammtitel, QString::fromStdString(text));
+                                    return false;
+                                }),
+              ":");
+    Spielartenstand stand;
+    if (felder.size() != stand.size()) {
+        umgebung.archiv.AnzahlZiehungen = 0;
+        return std::nullopt;
+    }
+    std::ranges::copy(felder, stand.begin());
+    return stand;
 }
 
 bool ladeSpielart(Umgebung& umgebung, std::int16_t spielart)

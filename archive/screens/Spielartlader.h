@@ -1,13 +1,18 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 struct Umgebung;
 
-/// Loads the files of `maske` (1 Samstag, 2 Mittwoch, 4 Mittwoch (B)) one after the other; a missing one is told in a
-/// box. Gives what stands in each, see `LadeAlleZiehungen`.
-std::string ladeSpielarten(Umgebung& umgebung, int maske);
+/// What stands in each of the three files: "-" without draws, else such as "3693  [2026/29]".
+using Spielartenstand = std::array<std::string, 3>;
+
+/// Loads the files of `maske` (1 Samstag, 2 Mittwoch, 4 Mittwoch (B)) one after the other. A missing one is told in a
+/// box and gives nothing; the archive then counts no draws, as the columns hold but a part of what was asked for.
+std::optional<Spielartenstand> ladeSpielarten(Umgebung& umgebung, int maske);
 
 /// Loads the Ziehungsdatei of `spielart` into the archive; a missing file is told in a box until it is there.
 /// False if the program ends before that.
