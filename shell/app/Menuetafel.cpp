@@ -8,20 +8,21 @@ constexpr auto kZeilenSpaltenHinweis =
 
 Menuegruppe zahlen()
 {
-    return {"Gewinnzahlen",
-            {{"Befehl2", "H&äufigkeitsverteilung", "frmSTAT1",
-              "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung "},
-             {"Befehl4", "Wann &zuletzt gezogen?", "frmZuletzt",
-              "Wann wurden die einzelnen Gewinnzahlen zuletzt gezogen ?"},
-             {"Befehl8", "Ausb&leibestatistik", "frmABSTAND",
-              "Ausbleibestatistik, wieviele Wochen wurden die Gewinnzahlen nicht gezogen ?"},
-             {"Befehl9", "Häufigkeit pro &Jahr u. SW", "frmSJAHR",
-              "Berechnet die Häufigkeit der Gewinnzahlen pro Jahr und pro Spielwoche."},
-             {"Befehl22", "&Häufigkeit pro SW", "frmSWH", "Häufigkeit der Gewinnzahlen für ausgewählte Spielwochen."},
-             {"Befehl5", "Septiden Zehnergruppen", "frmGERADE",
-              "Anzahl der Gewinnzahlen in den Septiden und den Zehnergruppen. Anzahl gerader und ungerader "
-              "Gewinnzahlen."},
-             {"Befehl20", "Sum&me", "frmLquer", "Ermittelt die Summe der Gewinnzahlen pro Ziehung."}}};
+    return {
+        "Gewinnzahlen",
+        {{"Befehl2", "H&äufigkeitsverteilung", "frmSTAT1", "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung ",
+          Oeffnung::Gewoehnlich, Spielbezug::MitErstemJahr},
+         {"Befehl4", "Wann &zuletzt gezogen?", "frmZuletzt",
+          "Wann wurden die einzelnen Gewinnzahlen zuletzt gezogen ?"},
+         {"Befehl8", "Ausb&leibestatistik", "frmABSTAND",
+          "Ausbleibestatistik, wieviele Wochen wurden die Gewinnzahlen nicht gezogen ?"},
+         {"Befehl9", "Häufigkeit pro &Jahr u. SW", "frmSJAHR",
+          "Berechnet die Häufigkeit der Gewinnzahlen pro Jahr und pro Spielwoche."},
+         {"Befehl22", "&Häufigkeit pro SW", "frmSWH", "Häufigkeit der Gewinnzahlen für ausgewählte Spielwochen."},
+         {"Befehl5", "Septiden Zehnergruppen", "frmGERADE",
+          "Anzahl der Gewinnzahlen in den Septiden und den Zehnergruppen. Anzahl gerader und ungerader "
+          "Gewinnzahlen."},
+         {"Befehl20", "Sum&me", "frmLquer", "Ermittelt die Summe der Gewinnzahlen pro Ziehung."}}};
 }
 
 Menuegruppe filter()
@@ -63,11 +64,14 @@ Menuegruppe tipps()
     return {"Tipps",
             {{"Befehl10", "Lotto Zeit&reise", "frmLottoneu",
               "Durchsucht die Historischen-Gewinnzahlen nach bestimmten Zahlenkombinationen."},
-             {"Befehl11", "&Vergleich", "frmSSA", "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit "},
+             {"Befehl11", "&Vergleich", "frmSSA", "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit ",
+              Oeffnung::Gewoehnlich, Spielbezug::MitErstemJahr},
              {"Befehl18", "Tipps auswerten/&speich.", "frmTA",
-              "Tipschein-Auswertung. Vergleicht Tip's mit der letzten (aktuellen) Ziehung. Speichert Tip's."},
+              "Tipschein-Auswertung. Vergleicht Tip's mit der letzten (aktuellen) Ziehung. Speichert Tip's.",
+              Oeffnung::Gewoehnlich, Spielbezug::OhneMittwochB},
              {"Befehl1", "&Tippreihen erstellen", "",
-              "Erstellt Tipvorschläge unter Einbeziehung der Ziehungsstatistiken oder Zufallstips."},
+              "Erstellt Tipvorschläge unter Einbeziehung der Ziehungsstatistiken oder Zufallstips.",
+              Oeffnung::Gewoehnlich, Spielbezug::OhneMittwochB},
              {"Command9", "Spielscheine bedrucken", "frmTippen",
               "Für Spielscheinformulare des \"Sachsenlotto\" oder ähnliche Formulare."}}};
 }
@@ -87,7 +91,8 @@ Menuegruppe archiv()
 {
     return {"Ziehungsarchiv",
             {{"Befehl3", "&Aktualisieren (manuell)", "frmAnzeige",
-              "Die Gewinnzahl-Dateien (SALOTTO.DAT und MALOTTO.DAT) manuell aktualisieren."},
+              "Die Gewinnzahl-Dateien (SALOTTO.DAT und MALOTTO.DAT) manuell aktualisieren.", Oeffnung::Gewoehnlich,
+              Spielbezug::OhneMittwochB},
              {"Command5", "Aktualisieren (&online)", "frmOnline",
               "Die Gewinnzahl-Dateien (SALOTTO.DAT und MALOTTO.DAT) online aktualisieren. Eine Verbindung muss aktiv "
               "sein."},
@@ -216,10 +221,10 @@ const std::vector<std::vector<Menuegruppe>>& menuewand()
 
 const std::vector<std::vector<Menuegruppe>>& menuerollo()
 {
-    static const std::vector<std::vector<Menuegruppe>> rollo{{zahlenZusammen(), superzahlZusammen()},
-                                                             {filterZusammen()},
-                                                             {kombinationenZusammen()},
-                                                             {tippsZusammen(), programmZusammen()}};
+    static const std::vector<std::vector<Menuegruppe>> rollo{
+        {zahlenZusammen(), superzahlZusammen()},
+        {filterZusammen()},
+        {kombinationenZusammen(), tippsZusammen(), programmZusammen()}};
     return rollo;
 }
 

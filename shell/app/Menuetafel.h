@@ -11,6 +11,13 @@ enum class Oeffnung {
     NurDruecken,   ///< the tool is loaded and its start button pressed; the menu stays
 };
 
+/// What of a button depends on the game.
+enum class Spielbezug {
+    Keiner,
+    MitErstemJahr, ///< its hint ends with the year of the first draw
+    OhneMittwochB, ///< it is of no use for a game that is not drawn any more
+};
+
 /// One tool button of the selection menu.
 struct Menueknopf {
     const char* name;
@@ -18,6 +25,7 @@ struct Menueknopf {
     const char* ziel; ///< registered name of the screen
     const char* hinweis;
     Oeffnung oeffnung = Oeffnung::Gewoehnlich;
+    Spielbezug spielbezug = Spielbezug::Keiner;
 };
 
 /// Buttons of one kind, which stand together.

@@ -1,6 +1,7 @@
 #include "shell/app/Rollo.h"
 
 #include "shell/elements/Bloecke.h"
+#include "shell/elements/Farben.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/TextRand.h"
 
@@ -14,6 +15,10 @@ constexpr auto kLaengsterName = "Mittwochslotto 6 aus 49 (B)";
 constexpr auto kRolloText =
     "Mit diesen Programmfunktionen können die Ziehungen des Samstags- und Mittwochslotto zusammen "
     "ausgewertet werden.";
+
+/// The name of the game stands where the ground is the brightest green: only a dark text is readable there, and its
+/// shadow is a light.
+const QColor kSchattenfarbe(160, 255, 160);
 
 /// A strip of slats, as the blind shows them where it is rolled up.
 QPixmap lamellen(int breite)
@@ -36,7 +41,7 @@ QPixmap lamellen(int breite)
 Spielname::Spielname(QWidget* eltern) : QWidget(eltern)
 {
     QFont schrift = font();
-    schrift.setPointSizeF(schrift.pointSizeF() * 1.5);
+    schrift.setPointSizeF(schrift.pointSizeF() * 1.35);
     schrift.setBold(true);
     for (std::size_t i = 0; i < bezeichnungen_.size(); ++i) {
         bezeichnungen_[i] = new QLabel(this);
@@ -44,7 +49,7 @@ Spielname::Spielname(QWidget* eltern) : QWidget(eltern)
         bezeichnungen_[i]->setFont(schrift);
         bezeichnungen_[i]->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         QPalette farben = palette();
-        farben.setColor(QPalette::WindowText, i == 0 ? QColor(0, 60, 0) : QColor(255, 255, 255));
+        farben.setColor(QPalette::WindowText, i == 0 ? kSchattenfarbe : Farben::Fuss);
         bezeichnungen_[i]->setPalette(farben);
     }
 }
@@ -57,7 +62,7 @@ QSize Spielname::sizeHint() const
 
 void Spielname::resizeEvent(QResizeEvent*)
 {
-    constexpr QPoint kSchatten{2, 2};
+    constexpr QPoint kSchatten{1, 2};
     const QSize platz(width() - kSchatten.x(), height() - kSchatten.y());
     bezeichnungen_[0]->setGeometry(QRect(kSchatten, platz));
     bezeichnungen_[1]->setGeometry(QRect(QPoint(0, 0), platz));

@@ -2,13 +2,12 @@
 
 #include "archive/logic/ZiehungsArchiv.h"
 #include "archive/screens/Spielartlader.h"
-#include "shell/app/Knopfwand.h"
 #include "shell/app/Rollo.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Farben.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Tippfeld7x7View.h"
-#include "shell/logic/Format.h"
+#include "shell/elements/Utf8.h"
 #include "shell/logic/Zufall.h"
 
 #include <QCoreApplication>
@@ -23,10 +22,15 @@
 #include <QRadioButton>
 #include <QStackedLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr auto kTitel = "Lotto-Auswahlmenü";
+constexpr auto kPopupknopf = "Befehl1";
 constexpr auto kSpendenseite = "https://www.paypal.com/donate";
+constexpr auto kNichtEingebaut = "Dieses Werkzeug gehört noch nicht zum Programm.";
+constexpr auto kZiehungBBeendet = "Die Ziehung B des Mittwochslottos wurde am 29.11.2000 zum letzten Mal ausgespielt.";
 
 constexpr auto kInfoZusammen =
     "Bis Juni 2013 wurden für die Mittwochs- und Samstagsziehungen des Lotto 6 aus 49 verschiedenen "
@@ -55,7 +59,7 @@ const Spieltexte& spieltexte(std::int16_t spielart)
                                                    "Mittwochslotto 6 aus 49 ", "(MALOTTO.DAT; Mittwochslotto A)"},
                                                   {" >>>>>>>>>>>     MBLOTTO.DAT wird geladen      <<<<<<<<<<<",
                                                    "Mittwochslotto 6 aus 49 (B)", "(MBLOTTO.DAT; Mittwochslotto B)"}}};
-    return texte.at(static_cast<std::size_t>(spielart - 1));
+    return istSamstag(spielart) ? texte[0] : texte.at(static_cast<std::size_t>(spielart - 1));
 }
 
 } // namespace
@@ -89,7 +93,7 @@ frmLSTART::frmLSTART(Umgebung& umgebung) : Bildschirm(umgebung, "frmLSTART", kTi
         dehnbar(wechsel_),
     });
     // clang-format on
-    oben->setContentsMargins(2 * Stil::kRand, 2 * Stil::kRand, 2 * Stil::kRand, 2 * Stil::kRand);
+    oben->setContentsMargins(Stil::kRand, Stil::kRand, Stil::kRand, Stil::kRand);
     auto* ganz = spalte({dehnbar(oben), baueFuss()});
     ganz->setSpacing(0);
     setLayout(ganz);
@@ -143,7 +147,7 @@ Knopfwand* frmLSTART::baueWand(const std::vector<std::vector<Menuegruppe>>& spal
 {
     auto* wand = new Knopfwand(
         spalten, gruppenname, [this](const Menueknopf& knopf) { fuehreAus(knopf); }, this);
-    wand->gibFrei([this](const QString& ziel) { return umgebung().bildschirme->kennt(ziel); });
+    wand->stelle([this](const Menueknopf& knopf) { return knopfstand(knopf, Samstagslotto); });
     return wand;
 }
 
@@ -178,8 +182,7 @@ void frmLSTART::waehleSpielart(std::int16_t spielart)
 void frmLSTART::ladeArchiv(std::int16_t spielart)
 {
     wechsel_->setCurrentIndex(0);
-    sperreKnoepfe(spielart);
-    setzeJahreshinweise(spielart);
+    wand_->stelle([this, spielart](const Menueknopf& knopf) { return knopfstand(knopf, spielart); });
     setWindowTitle(spieltexte(spielart).ladetitel);
     for (QLabel* name : Bezeichnung3)
         name->setText(spieltexte(spielart).spielname);
@@ -187,27 +190,27 @@ void frmLSTART::ladeArchiv(std::int16_t spielart)
     ladeSpielart(umgebung(), spielart);
     QGuiApplication::restoreOverrideCursor();
     setWindowTitle(kTitel);
-    if (umgebung().archiv.AnzahlZiehungen >= 1)
-        setzeTitel(statuszeile());
+    zeigeLetzteZiehung();
 }
 
-void frmLSTART::sperreKnoepfe(std::int16_t spielart)
+Knopfstand frmLSTART::knopfstand(const Menueknopf& knopf, std::int16_t spielart) const
 {
-    for (const char* name : {"Befehl3", "Befehl18"}) {
-        const QString ziel = QString(name) == "Befehl3" ? "frmAnzeige" : "frmTA";
-        wand_->knopf(name)->setEnabled(spielart != MittwochslottoB && umgebung().bildschirme->kennt(ziel));
-    }
-    const auto entwickelt = [](const QAction* zeile) { return zeile->isEnabled() && !zeile->isSeparator(); };
-    const auto zeilen = mnuOption->actions();
-    wand_->knopf("Befehl1")->setEnabled(spielart != MittwochslottoB &&
-                                        std::any_of(zeilen.begin(), zeilen.end(), entwickelt));
+    Knopfstand stand{knopf.hinweis, {}};
+    if (knopf.spielbezug == Spielbezug::MitErstemJahr)
+        stand.hinweis += qt(erstesSpieljahr(spielart));
+    if (!istEingebaut(knopf))
+        stand.sperrgrund = kNichtEingebaut;
+    else if (knopf.spielbezug == Spielbezug::OhneMittwochB && spielart == MittwochslottoB)
+        stand.sperrgrund = kZiehungBBeendet;
+    return stand;
 }
 
-void frmLSTART::setzeJahreshinweise(std::int16_t spielart)
+bool frmLSTART::istEingebaut(const Menueknopf& knopf) const
 {
-    const QString jahr = istSamstag(spielart) ? "1955" : "1986";
-    setzeHinweis(wand_->knopf("Befehl2"), "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung " + jahr);
-    setzeHinweis(wand_->knopf("Befehl11"), "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit " + jahr);
+    const auto kennt = [this](const char* ziel) { return umgebung().bildschirme->kennt(ziel); };
+    if (QString(knopf.name) == kPopupknopf)
+        return std::ranges::any_of(menueOption(), kennt, &Popupeintrag::ziel);
+    return !*knopf.ziel || kennt(knopf.ziel);
 }
 
 void frmLSTART::zeigeZusammen()
@@ -217,22 +220,16 @@ void frmLSTART::zeigeZusammen()
     move(schirm.center() - QPoint(width() / 2, height() / 2));
 }
 
-std::int16_t frmLSTART::gewaehlteSpielart() const
-{
-    if (Option1->isChecked())
-        return Samstagslotto;
-    if (Option2->isChecked())
-        return Mittwochslotto;
-    return Option3->isChecked() ? MittwochslottoB : SpielartStart;
-}
-
-QString frmLSTART::statuszeile() const
+/// Of the archive as it is now. With the combined tools, and without a draw, the line stays as it is.
+void frmLSTART::zeigeLetzteZiehung()
 {
     const ZiehungsArchiv& archiv = umgebung().archiv;
+    if (Option4->isChecked() || archiv.AnzahlZiehungen < 1)
+        return;
     const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
-    return QString("*** Letzte eingetragene Ziehung in Gewinnzahl-Datei %1 ->  %2 vom %3 ***")
-        .arg(spieltexte(gewaehlteSpielart()).klammer, QString::fromStdString(jahrUndWoche(archiv, letzte)),
-             QString::fromStdString(archiv.Datum[letzte]));
+    zeigeStatus(
+        QString("*** Letzte eingetragene Ziehung in Gewinnzahl-Datei %1 ->  %2 vom %3 ***")
+            .arg(spieltexte(archiv.Spielart).klammer, qt(jahrUndWoche(archiv, letzte)), qt(archiv.Datum[letzte])));
 }
 
 void frmLSTART::zeigeStatus(const QString& text)
@@ -240,14 +237,16 @@ void frmLSTART::zeigeStatus(const QString& text)
     Bezeichnung2->setText(text);
 }
 
+/// A frame or a gap tells as little as the bare form.
 void frmLSTART::mausUeber(QWidget* feld)
 {
     if (feld == wand_->knopf("Befehl13"))
         tippe();
-    if (feld != this)
-        Bildschirm::mausUeber(feld);
-    else if (gewaehlteSpielart() != SpielartStart && umgebung().archiv.AnzahlZiehungen >= 1)
-        setzeTitel(statuszeile());
+    const QString text = hinweisVon(feld);
+    if (text.isEmpty())
+        zeigeLetzteZiehung();
+    else
+        zeigeStatus(text);
 }
 
 void frmLSTART::tippe()
@@ -269,7 +268,7 @@ void frmLSTART::fuehreAus(const Menueknopf& knopf)
         umgebung().oeffner.oeffne(kSpendenseite);
     else if (name == "cmdInfo2")
         zeigeInfoZusammen();
-    else if (name == "Befehl1")
+    else if (name == kPopupknopf)
         mnuOption->popup(QCursor::pos());
     else
         oeffne(knopf);
@@ -293,23 +292,35 @@ void frmLSTART::oeffneAusPopup(const Popupeintrag& eintrag)
 {
     for (QAction* zeile : mnuOption->actions())
         zeile->setChecked(zeile->objectName() == eintrag.name);
-    wand_->knopf("Befehl1")->setEnabled(true);
+    wand_->knopf(kPopupknopf)->setEnabled(true);
     umgebung().klang.SpieleKlang(1);
     umgebung().bildschirme->oeffne(eintrag.ziel);
     hide();
 }
 
+/// A tool may have changed the archive. The focus is where it was, and is seen though it was the mouse that set it.
 void frmLSTART::zeigeWieder()
 {
     show();
     activateWindow();
+    setAttribute(Qt::WA_KeyboardFocusChange);
+    zeigeLetzteZiehung();
 }
 
+/// The compiled help where there is one and a viewer for it, else the same as a page.
 void frmLSTART::zeigeHilfe()
 {
-    const QString verzeichnis = QString::fromStdString(umgebung().archiv.ProgrammVerzeichnis);
-    const QString hilfe = verzeichnis + "lotto-hilfe.chm";
-    umgebung().oeffner.oeffne(QFileInfo::exists(hilfe) ? hilfe : verzeichnis + "lotto-hilfe.html");
+    const QString verzeichnis = qt(umgebung().archiv.ProgrammVerzeichnis);
+    const QString kompiliert = verzeichnis + "lotto-hilfe.chm";
+    const QString seite = verzeichnis + "lotto-hilfe.html";
+    if (QFileInfo::exists(kompiliert) && umgebung().oeffner.oeffne(kompiliert))
+        return;
+    const bool geoeffnet = umgebung().oeffner.oeffne(seite);
+    if (!QFileInfo::exists(seite))
+        umgebung().boxen.info(kProgrammtitel, "Die Hilfe wurde nicht gefunden. Sie gehört hierhin:\n" + seite);
+    else if (!geoeffnet)
+        umgebung().boxen.info(kProgrammtitel,
+                              "Die Hilfe lässt sich auf diesem Rechner nicht öffnen. Sie liegt hier:\n" + seite);
 }
 
 void frmLSTART::zeigeInfoZusammen()

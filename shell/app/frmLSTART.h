@@ -1,9 +1,8 @@
 #pragma once
 
-#include "shell/app/Menuetafel.h"
+#include "shell/app/Knopfwand.h"
 #include "shell/elements/Bildschirm.h"
 
-class Knopfwand;
 class QFrame;
 class QMenu;
 class QStackedLayout;
@@ -38,10 +37,9 @@ private:
 
     void ladeArchiv(std::int16_t spielart);
     void zeigeZusammen();
-    void sperreKnoepfe(std::int16_t spielart);
-    void setzeJahreshinweise(std::int16_t spielart);
-    QString statuszeile() const;
-    std::int16_t gewaehlteSpielart() const;
+    void zeigeLetzteZiehung();
+    Knopfstand knopfstand(const Menueknopf& knopf, std::int16_t spielart) const;
+    bool istEingebaut(const Menueknopf& knopf) const;
 
     void tippe();
     void fuehreAus(const Menueknopf& knopf);

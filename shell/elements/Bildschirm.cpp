@@ -21,21 +21,21 @@
 
 namespace {
 constexpr auto kHinweis = "hinweis";
-
-QString hinweisVon(const QWidget* feld, const QWidget* bis)
-{
-    for (; feld && feld != bis; feld = feld->parentWidget()) {
-        const QVariant text = feld->property(kHinweis);
-        if (text.isValid())
-            return text.toString();
-    }
-    return {};
-}
 } // namespace
 
 void setzeHinweis(QWidget* feld, const QString& text)
 {
     feld->setProperty(kHinweis, text);
+}
+
+QString hinweisVon(const QWidget* feld)
+{
+    for (; feld; feld = feld->parentWidget()) {
+        const QVariant text = feld->property(kHinweis);
+        if (text.isValid())
+            return text.toString();
+    }
+    return {};
 }
 
 Bildschirm::Bildschirm(Umgebung& umgebung, const QString& name, const QString& titel)
@@ -66,7 +66,7 @@ void Bildschirm::mausUeber(QWidget* feld)
 {
     if (laeuft())
         return;
-    const QString text = hinweisVon(feld, this);
+    const QString text = hinweisVon(feld);
     if (!text.isEmpty())
         zeigeStatus(text);
     else if (feld == this)

@@ -41,6 +41,8 @@ inline Ab ab(int erster)
 
 /// Sets or replaces the hint of a control. A hint holds for the children of a control too.
 void setzeHinweis(QWidget* feld, const QString& text);
+/// The hint of a control, or of the nearest one around it that has one; empty without any.
+QString hinweisVon(const QWidget* feld);
 
 /// Base of all screens. It owns the title that doubles as status line, the running flag of long evaluations, and the
 /// way back to the selection menu. Controls carry their told name as object name.

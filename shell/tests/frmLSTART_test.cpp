@@ -2,8 +2,13 @@
 #include "shell/elements/Bildschirm.h"
 #include "tools/drive/tests/Programmbuehne.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QGroupBox>
 #include <QImage>
+#include <QLabel>
 
+#include <cmath>
 #include <set>
 
 namespace {
@@ -92,14 +97,32 @@ TEST_F(Auswahlmenue, SperrtDreiKnoepfeNurBeiMittwochB)
     }
 }
 
-TEST_F(Auswahlmenue, LaesstEinenKnopfOhneWerkzeugGrauUndZeigtSeinenHinweis)
+TEST_F(Auswahlmenue, EinGrauerKnopfSagtWarum)
 {
     registriere("frmOnline");
+    registriere("frmTA");
     starte();
     EXPECT_TRUE(bedienbar("Command5"));
     EXPECT_FALSE(bedienbar("Befehl11"));
     ueberfahre("Befehl11");
-    EXPECT_EQ(status(), "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit 1955");
+    EXPECT_EQ(status(), "Vergleicht gespeicherte Spielscheine mit allen Ziehungen seit 1955  –  Dieses Werkzeug gehört "
+                        "noch nicht zum Programm.");
+    ueberfahre("cmdZeileSpalt2");
+    EXPECT_EQ(status(), "Dieses Werkzeug gehört noch nicht zum Programm.");
+    ueberfahre("Befehl1");
+    EXPECT_TRUE(status().endsWith("  –  Dieses Werkzeug gehört noch nicht zum Programm."));
+    ueberfahre("Befehl18");
+    EXPECT_TRUE(status().endsWith(" Speichert Tip's."));
+    klicke("Option3");
+    for (const char* knopf : {"Befehl3", "Befehl18"}) {
+        ueberfahre(knopf);
+        EXPECT_TRUE(status().endsWith(
+            "  –  Die Ziehung B des Mittwochslottos wurde am 29.11.2000 zum letzten Mal ausgespielt."))
+            << knopf;
+    }
+    klicke("Option4");
+    ueberfahre("cmdGU");
+    EXPECT_TRUE(status().endsWith("  –  Dieses Werkzeug gehört noch nicht zum Programm."));
     klicke("Option3");
     EXPECT_TRUE(bedienbar("Command5"));
     ueberfahre("Befehl2");
@@ -119,6 +142,78 @@ TEST_F(Auswahlmenue, ZeigtUeberDerFormWiederDieLetzteZiehung)
     }
 }
 
+TEST_F(Auswahlmenue, ZeigtSieAuchUeberRahmenLueckenUndKnoepfenOhneHinweis)
+{
+    starte();
+    klicke("Option2");
+    const QString mittwoch = status();
+    EXPECT_TRUE(mittwoch.contains("MALOTTO.DAT"));
+    for (const char* leer : {"RahmenSpielart", "Rahmen1", "GruppeGewinnzahlen", "Bezeichnung2", "Befehl15"}) {
+        ueberfahre("Befehl2");
+        ueberfahre(leer);
+        EXPECT_EQ(status(), mittwoch) << leer;
+    }
+}
+
+TEST_F(Auswahlmenue, MitDenWerkzeugenFuerAlleBleibtDieZeileUeberRahmenUndLuecken)
+{
+    starte();
+    klicke("Option4");
+    ueberfahre("cmdTreffer");
+    const QString hinweis = status();
+    for (const char* leer : {"frmLSTART", "RahmenSpielart", "frameRollo", "RolloFilter", "txtRollo", "cmdInfo2"}) {
+        ueberfahre(leer);
+        EXPECT_EQ(status(), hinweis) << leer;
+    }
+}
+
+TEST_F(Auswahlmenue, EineLeereDateiLaesstDieZeileStehen)
+{
+    schreibe("SALOTTO.DAT", {});
+    starte();
+    EXPECT_EQ(status(), "");
+    for (const char* leer : {"frmLSTART", "RahmenSpielart", "Befehl15"}) {
+        ueberfahre(leer);
+        EXPECT_EQ(status(), "") << leer;
+    }
+    ueberfahre("Befehl2");
+    const QString hinweis = status();
+    ueberfahre("Rahmen1");
+    EXPECT_EQ(status(), hinweis);
+}
+
+TEST_F(Auswahlmenue, NachEinemWerkzeugNenntDieZeileDieZiehungDieDasArchivJetztHat)
+{
+    starte();
+    oeffne("frmSTAT1");
+    buehne.archiv.AnzahlZiehungen -= 1;
+    schliesse();
+    EXPECT_TRUE(status().contains(" ->  2026/45 vom Sa, 07.11.2026 ***")) << status().toStdString();
+    klicke("Option4");
+    const QString vorher = status();
+    oeffne("frmAlleKombis");
+    schliesse();
+    EXPECT_TRUE(sichtbar("frameRollo"));
+    EXPECT_EQ(status(), vorher);
+}
+
+TEST_F(Auswahlmenue, NachEinemWerkzeugIstDerFokusZuSehenWoErWar)
+{
+    starte();
+    Bildschirm* menue = buehne.bildschirme.geladen("frmLSTART");
+    for (const char* taste : {"Space", ""}) {
+        menue->findChild<QWidget*>("Befehl4")->setFocus();
+        if (*taste)
+            tippe("Befehl4", taste);
+        else
+            klicke("Befehl4");
+        ASSERT_FALSE(menue->isVisible()) << taste;
+        schliesse();
+        EXPECT_EQ(menue->focusWidget()->objectName(), "Befehl4");
+        EXPECT_TRUE(menue->testAttribute(Qt::WA_KeyboardFocusChange)); // else the style does not draw it
+    }
+}
+
 TEST_F(Auswahlmenue, ZusammenVerdecktDieWandUndLaesstSpielartUndStatus)
 {
     starte();
@@ -134,7 +229,8 @@ TEST_F(Auswahlmenue, ZusammenVerdecktDieWandUndLaesstSpielartUndStatus)
                                 "zusammen ausgewertet werden.");
     ueberfahre("cmdGU");
     const QString hinweis = status();
-    EXPECT_EQ(hinweis, "Sucht Ziehungen mit einem bestimmten Verhältnis gerade zu ungeraden Gewinnzahlen.");
+    EXPECT_TRUE(
+        hinweis.startsWith("Sucht Ziehungen mit einem bestimmten Verhältnis gerade zu ungeraden Gewinnzahlen."));
     ueberfahre("frmLSTART");
     EXPECT_EQ(status(), hinweis);
     klicke("Option1");
@@ -253,6 +349,7 @@ TEST_F(Auswahlmenue, EinVerborgenerEintragDesPopupsLaesstSichNichtWaehlen)
 
 TEST_F(Auswahlmenue, ReichtHilfeUndSpendenseiteWeiter)
 {
+    schreibe("lotto-hilfe.html", {"x"});
     starte();
     klicke("Befehl15");
     klicke("cmdPaypal");
@@ -260,6 +357,27 @@ TEST_F(Auswahlmenue, ReichtHilfeUndSpendenseiteWeiter)
     ASSERT_EQ(geoeffnet.size(), 2);
     EXPECT_EQ(geoeffnet[0], QString::fromStdString(buehne.archiv.ProgrammVerzeichnis) + "lotto-hilfe.html");
     EXPECT_TRUE(geoeffnet[1].startsWith("https://"));
+    EXPECT_TRUE(boxen().isEmpty());
+}
+
+TEST_F(Auswahlmenue, OhneProgrammFuerDieHilfeSagtEsWoSieLiegt)
+{
+    schreibe("lotto-hilfe.html", {"x"});
+    schreibe("lotto-hilfe.chm", {"x"});
+    buehne.oeffner.scheitert = true;
+    starte();
+    klicke("Befehl15");
+    EXPECT_EQ(boxen(),
+              QStringList{"info|Tombrix|Die Hilfe lässt sich auf diesem Rechner nicht öffnen. Sie liegt hier:\n" +
+                          QDir(ordner.path()).absolutePath() + "/lotto-hilfe.html"});
+}
+
+TEST_F(Auswahlmenue, OhneHilfeSagtEsWohinSieGehoert)
+{
+    starte();
+    klicke("Befehl15");
+    EXPECT_EQ(boxen(), QStringList{"info|Tombrix|Die Hilfe wurde nicht gefunden. Sie gehört hierhin:\n" +
+                                   QDir(ordner.path()).absolutePath() + "/lotto-hilfe.html"});
 }
 
 TEST_F(Auswahlmenue, BevorzugtDieKompilierteHilfeWennSieDaIst)
@@ -297,6 +415,66 @@ TEST_F(Auswahlmenue, MaltDenFarblaufVonGruenNachSchwarz)
         EXPECT_LE(farbe.green(), vorher);
         vorher = farbe.green();
     }
+}
+
+/// Relative luminance of a colour, 0 (black) to 1 (white).
+double leuchtdichte(const QColor& farbe)
+{
+    const auto linear = [](double anteil) {
+        return anteil <= 0.04045 ? anteil / 12.92 : std::pow((anteil + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(farbe.redF()) + 0.7152 * linear(farbe.greenF()) + 0.0722 * linear(farbe.blueF());
+}
+
+double kontrast(const QColor& eine, const QColor& andere)
+{
+    const auto [dunkel, hell] = std::minmax(leuchtdichte(eine), leuchtdichte(andere));
+    return (hell + 0.05) / (dunkel + 0.05);
+}
+
+TEST_F(Auswahlmenue, DerNameDesSpielsIstAufSeinemGruenZuLesen)
+{
+    EXPECT_NEAR(kontrast(Qt::white, Qt::black), 21, 1e-9);
+    starte();
+    Bildschirm* menue = buehne.bildschirme.geladen("frmLSTART");
+    const auto* name = menue->findChild<QLabel*>("Bezeichnung3(1)");
+    const QColor schrift = name->palette().color(QPalette::WindowText);
+    for (const QSize groesse : {menue->size(), QSize(1022, 740), QSize(2560, 1400)}) {
+        menue->resize(groesse);
+        QCoreApplication::processEvents();
+        const QImage bild = menue->grab().toImage();
+        const int oben = name->mapTo(menue, QPoint(0, 0)).y();
+        for (int y = oben; y < oben + name->height(); ++y)
+            EXPECT_GE(kontrast(bild.pixelColor(2, y), schrift), 7) << y;
+    }
+}
+
+TEST_F(Auswahlmenue, DieSpaltenBeiderTafelnSindGleichBreit)
+{
+    starte();
+    Bildschirm* menue = buehne.bildschirme.geladen("frmLSTART");
+    for (const auto& [option, gruppen] : {std::pair("Option1", "Gruppe"), std::pair("Option4", "Rollo")}) {
+        klicke(option);
+        for (const QSize groesse : {menue->size(), menue->minimumSizeHint(), QSize(1900, 1000)}) {
+            menue->resize(groesse);
+            QCoreApplication::processEvents();
+            std::set<int> breiten;
+            for (const QGroupBox* gruppe : menue->findChildren<QGroupBox*>())
+                if (gruppe->isVisible() && gruppe->objectName().startsWith(gruppen))
+                    breiten.insert(gruppe->width());
+            ASSERT_FALSE(breiten.empty());
+            EXPECT_LE(*breiten.rbegin() - *breiten.begin(), 1) << option << groesse.width();
+        }
+    }
+}
+
+// A desktop of 1024 x 768 less the frame of a window manager.
+TEST_F(Auswahlmenue, PasstAufEinenKleinenSchirm)
+{
+    starte();
+    const QSize bedarf = buehne.bildschirme.geladen("frmLSTART")->minimumSizeHint();
+    EXPECT_LE(bedarf.width(), 1014);
+    EXPECT_LE(bedarf.height(), 720);
 }
 
 TEST_F(Auswahlmenue, EineUnlesbareDateiLaesstDieStatuszeileStehen)
