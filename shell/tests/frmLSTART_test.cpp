@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
+#include <QPushButton>
 
 #include <cmath>
 #include <set>
@@ -475,6 +476,21 @@ TEST_F(Auswahlmenue, PasstAufEinenKleinenSchirm)
     const QSize bedarf = buehne.bildschirme.geladen("frmLSTART")->minimumSizeHint();
     EXPECT_LE(bedarf.width(), 1014);
     EXPECT_LE(bedarf.height(), 720);
+}
+
+TEST_F(Auswahlmenue, JederHinweisPasstAuchDannInDieStatuszeile)
+{
+    starte();
+    Bildschirm* menue = buehne.bildschirme.geladen("frmLSTART");
+    menue->resize(menue->minimumSizeHint());
+    QCoreApplication::processEvents();
+    const auto* zeile = menue->findChild<QLabel*>("Bezeichnung2");
+    const QSize platz = zeile->contentsRect().size();
+    for (const QPushButton* knopf : menue->findChildren<QPushButton*>()) {
+        const QRect bedarf =
+            zeile->fontMetrics().boundingRect(QRect({}, platz), Qt::TextWordWrap | Qt::AlignLeft, hinweisVon(knopf));
+        EXPECT_LE(bedarf.height(), platz.height()) << knopf->objectName().toStdString();
+    }
 }
 
 TEST_F(Auswahlmenue, EineUnlesbareDateiLaesstDieStatuszeileStehen)
