@@ -1,27 +1,36 @@
 #pragma once
 
 #include "archive/logic/Ziehungsdatei.h"
+#include "testhilfen/Datenordner.h"
+#include "testhilfen/Musterordner.h"
 
-// The real draws of ../shared/daten, seen from the root of the tree; empty where they are missing.
+// What the benchmarks measure with: the real draws where they lie, otherwise the sample.
+
+/// With a separator at its end.
+inline const std::string& ziehungsordner()
+{
+    static const std::string ordner = (gibtEchteDaten() ? kEchteDaten : musterordner()).string() + "/";
+    return ordner;
+}
 
 inline const ZiehungsArchiv& samstagsarchiv()
 {
     static const ZiehungsArchiv geladen = [] {
         ZiehungsArchiv neu;
         neu.Spielart = Samstagslotto;
-        neu.ProgrammVerzeichnis = "../shared/daten/";
+        neu.ProgrammVerzeichnis = ziehungsordner();
         LadeZiehungsdatei(neu, {});
         return neu;
     }();
     return geladen;
 }
 
-/// Those of all three games.
+/// The draws of all three games.
 inline const ZiehungsArchiv& alleZiehungen()
 {
     static const ZiehungsArchiv geladen = [] {
         ZiehungsArchiv neu;
-        neu.ProgrammVerzeichnis = "../shared/daten/";
+        neu.ProgrammVerzeichnis = ziehungsordner();
         LadeAlleZiehungen(neu, 7, {});
         return neu;
     }();

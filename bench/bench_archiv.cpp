@@ -1,6 +1,7 @@
 #include "archive/logic/Dateiinhalt.h"
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/Ziehungskalender.h"
+#include "bench/Archive.h"
 
 #include <array>
 #include <benchmark/benchmark.h>
@@ -14,21 +15,6 @@
 namespace {
 
 constexpr std::array kDateien{"SALOTTO.DAT", "MALOTTO.DAT", "MBLOTTO.DAT"};
-
-/// Where the real draws lie.
-std::string daten()
-{
-    const char* ordner = std::getenv("TOMBRIX_DATEN");
-    return ordner != nullptr ? ordner : "../shared/daten";
-}
-
-bool ohneDaten(benchmark::State& state)
-{
-    if (std::filesystem::exists(std::filesystem::path(daten()) / kDateien[0]))
-        return false;
-    state.SkipWithError("no real draws: set TOMBRIX_DATEN");
-    return true;
-}
 
 /// A folder with a synthetic SALOTTO.DAT, gone with it.
 class Messordner {
@@ -72,10 +58,8 @@ void zaehleZiehungen(benchmark::State& state, std::int64_t ziehungen)
 
 void echteDateienLaden(benchmark::State& state)
 {
-    if (ohneDaten(state))
-        return;
     ZiehungsArchiv archiv;
-    archiv.ProgrammVerzeichnis = daten();
+    archiv.ProgrammVerzeichnis = ziehungsordner();
     std::int64_t ziehungen = 0;
     for (auto _ : state) {
         ziehungen = 0;
@@ -91,10 +75,8 @@ BENCHMARK(echteDateienLaden)->Unit(benchmark::kMicrosecond);
 
 void echteDateienZusammenLaden(benchmark::State& state)
 {
-    if (ohneDaten(state))
-        return;
     ZiehungsArchiv archiv;
-    archiv.ProgrammVerzeichnis = daten();
+    archiv.ProgrammVerzeichnis = ziehungsordner();
     for (auto _ : state)
         benchmark::DoNotOptimize(LadeAlleZiehungen(archiv, 7, {}));
     zaehleZiehungen(state, archiv.AnzahlZiehungen);
@@ -103,11 +85,9 @@ BENCHMARK(echteDateienZusammenLaden)->Unit(benchmark::kMicrosecond);
 
 void echteDateienErstesLaden(benchmark::State& state)
 {
-    if (ohneDaten(state))
-        return;
     for (auto _ : state) {
         ZiehungsArchiv archiv;
-        archiv.ProgrammVerzeichnis = daten();
+        archiv.ProgrammVerzeichnis = ziehungsordner();
         benchmark::DoNotOptimize(LadeAlleZiehungen(archiv, 7, {}));
     }
 }
@@ -115,23 +95,20 @@ BENCHMARK(echteDateienErstesLaden)->Unit(benchmark::kMicrosecond);
 
 void referenzNurBytes(benchmark::State& state)
 {
-    if (ohneDaten(state))
-        return;
     for (auto _ : state)
         for (const char* name : kDateien)
-            benchmark::DoNotOptimize(leseDateiinhalt(std::filesystem::path(daten()) / name, 1U << 22U).bytes.data());
+            benchmark::DoNotOptimize(
+                leseDateiinhalt(std::filesystem::path(ziehungsordner()) / name, 1U << 22U).bytes.data());
 }
 BENCHMARK(referenzNurBytes)->Unit(benchmark::kMicrosecond);
 
 void referenzGetlineSscanf(benchmark::State& state)
 {
-    if (ohneDaten(state))
-        return;
     std::int64_t ziehungen = 0;
     for (auto _ : state) {
         std::array<std::vector<int>, 10> spalten;
         for (const char* name : kDateien)
-            ziehungen = static_cast<std::int64_t>(liesMitSscanf(daten(), name, spalten));
+            ziehungen = static_cast<std::int64_t>(liesMitSscanf(ziehungsordner(), name, spalten));
         benchmark::DoNotOptimize(spalten);
     }
     zaehleZiehungen(state, ziehungen);

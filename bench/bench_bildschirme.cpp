@@ -1,3 +1,4 @@
+#include "bench/Archive.h"
 #include "shell/app/Programmstart.h"
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Liste.h"
@@ -5,7 +6,6 @@
 #include "shell/logic/Format.h"
 #include "shell/logic/Zufall.h"
 #include "tools/drive/Menueweg.h"
-#include "tools/muster/MusterDateien.h"
 
 #include <QFile>
 #include <QImage>
@@ -27,8 +27,6 @@ namespace {
 
 constexpr std::size_t kZeilen = 200'000;
 constexpr std::size_t kMillionen = 5'000'000;
-constexpr auto kEchteZiehungen = "../shared/daten";
-constexpr std::chrono::sys_days kStand{std::chrono::year{2026} / std::chrono::November / 21};
 
 using Uhrwerk = std::chrono::steady_clock;
 
@@ -177,19 +175,6 @@ void maleMillionen(benchmark::State& stand)
     });
 }
 
-/// The program directory: the real draws where they are, otherwise the sample.
-QString verzeichnis()
-{
-    static const QTemporaryDir muster;
-    static const QString wahl = [] {
-        if (QFile::exists(QString(kEchteZiehungen) + "/SALOTTO.DAT"))
-            return QString(kEchteZiehungen);
-        schreibeMusterDateien(muster.path().toStdString(), kStand);
-        return muster.path();
-    }();
-    return wahl;
-}
-
 void maleOffene(const Buehne& buehne)
 {
     QCoreApplication::processEvents();
@@ -203,7 +188,7 @@ void menueAusDemNichts(benchmark::State& stand)
 {
     std::unique_ptr<Buehne> buehne;
     messe(stand, 0.4, [&buehne] {
-        buehne = std::make_unique<Buehne>(verzeichnis());
+        buehne = std::make_unique<Buehne>(QString::fromStdString(ziehungsordner()));
         registriereBildschirme(buehne->bildschirme);
         starteProgramm(buehne->umgebung);
         maleOffene(*buehne);
@@ -213,7 +198,7 @@ void menueAusDemNichts(benchmark::State& stand)
 /// The button of a tool until it is painted, then its way back until the menu is.
 void oeffneUndSchliesse(benchmark::State& stand)
 {
-    Buehne buehne(verzeichnis());
+    Buehne buehne(QString::fromStdString(ziehungsordner()));
     registriereBildschirme(buehne.bildschirme);
     starteProgramm(buehne.umgebung);
     maleOffene(buehne);

@@ -7,8 +7,7 @@
 #include <cstdlib>
 
 // Counting through all combinations as the program does it, row by row, beside the plain six loops, at the place of
-// the argument. Then the closed sum, and the list of all Saturday draws. Run from the root of the tree: the real draws
-// lie in ../shared/daten.
+// the argument. Then the closed sum, and the list of all Saturday draws.
 
 namespace {
 
@@ -119,5 +118,5 @@ bool stimmen()
 
 int main(int argc, char** argv)
 {
-    return messe(argc, argv, true, stimmen);
+    return messe(argc, argv, stimmen);
 }

@@ -1,4 +1,5 @@
 #include "bench/Archive.h"
+#include "bench/Messlauf.h"
 #include "engines/logic/NieGezogeneDreier.h"
 #include "engines/logic/WiederholungDetails.h"
 #include "testhilfen/WiederholungenReferenz.h"
@@ -11,8 +12,7 @@
 
 // The repetition search over the draws of all three games as the program does it, beside the plain search that sorts
 // the sets as texts; over the largest archive there can be; and what follows from a search: the details of all lines,
-// beside the membership test of each draw, and the triples that were never drawn. Run from the root of the tree: the
-// real draws lie in ../shared/daten.
+// beside the membership test of each draw, and the triples that were never drawn.
 
 namespace {
 
@@ -123,21 +123,17 @@ bool stimmt(int k)
                zaehleMitProbe(zeilen, k) + 3 * zeilen.size();
 }
 
+bool stimmen()
+{
+    for (int k = kKleinsteWiederholung; k <= kGroessteWiederholung; ++k)
+        if (!stimmt(k))
+            return false;
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (alleZiehungen().AnzahlZiehungen == 0) {
-        std::fputs("no draws in ../shared/daten\n", stderr);
-        return EXIT_FAILURE;
-    }
-    for (int k = kKleinsteWiederholung; k <= kGroessteWiederholung; ++k) {
-        if (!stimmt(k)) {
-            std::fputs("the results differ\n", stderr);
-            return EXIT_FAILURE;
-        }
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return EXIT_SUCCESS;
+    return messe(argc, argv, stimmen);
 }

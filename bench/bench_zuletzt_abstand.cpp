@@ -10,8 +10,7 @@
 #include <cstdlib>
 
 // The last draws and the absences over all Saturday draws as the program finds them, beside the plain loops. The
-// argument is the mode: 1 without, 2 with, 3 only Zusatzzahl. Run from the root of the tree: the real draws lie in
-// ../shared/daten.
+// argument is the mode: 1 without, 2 with, 3 only Zusatzzahl.
 
 namespace {
 
@@ -111,5 +110,5 @@ bool stimmen()
 
 int main(int argc, char** argv)
 {
-    return messe(argc, argv, samstagsarchiv().AnzahlZiehungen > 0, stimmen);
+    return messe(argc, argv, stimmen);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/logic/Ziehungsdatei.h"
+#include "testhilfen/Datenordner.h"
 
 #include <array>
 #include <filesystem>
@@ -15,8 +16,6 @@ struct RohZiehung {
     std::array<int, 6> zahlen{};
     int zz = 0;
 };
-
-inline const std::filesystem::path kEchteDaten = "../shared/daten";
 
 /// All records of a file by its fixed columns, oldest first.
 inline std::vector<RohZiehung> liesRoh(const std::string& name)

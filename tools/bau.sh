@@ -14,13 +14,14 @@ pakete=(
     libgtest-dev          # the configure run looks for it,
     libgmock-dev          # for this
     libbenchmark-dev      # and for this
+    poppler-utils         # the tests of printing read the pages
 )
 # A Wayland session without X needs a platform plugin of its own.
 if [[ -n ${WAYLAND_DISPLAY-} && -z ${DISPLAY-} ]]; then
     pakete+=(qt6-wayland)
 fi
 
-melde() { printf '%s\n' "$*"; }
+melde() { printf '%s\n' "$@"; }
 
 scheitere() {
     printf 'Fehler: %s\n' "$*" >&2

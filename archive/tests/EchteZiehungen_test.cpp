@@ -1,5 +1,6 @@
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/Ziehungskalender.h"
+#include "testhilfen/Datenordner.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -11,9 +12,9 @@ class EchteZiehungenTest : public testing::Test {
 protected:
     void SetUp() override
     {
-        if (!std::filesystem::exists("../shared/daten"))
+        if (!gibtEchteDaten())
             GTEST_SKIP() << "no real draws";
-        archiv.ProgrammVerzeichnis = "../shared/daten";
+        archiv.ProgrammVerzeichnis = kEchteDaten.string();
     }
 
     void lade(std::int16_t spielart)

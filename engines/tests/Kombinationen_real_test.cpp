@@ -2,6 +2,7 @@
 #include "engines/logic/KombinationAusNummer.h"
 #include "engines/logic/Kombinationsseite.h"
 #include "engines/logic/Trefferliste.h"
+#include "testhilfen/Datenordner.h"
 
 #include <filesystem>
 #include <fstream>
@@ -9,8 +10,6 @@
 #include <set>
 
 namespace {
-
-const std::filesystem::path kDaten = "../shared/daten";
 
 /// A draw by the text of its record.
 struct Roh {
@@ -21,7 +20,7 @@ struct Roh {
 /// The records of a file by their fixed columns. `ersteMitSuperzahl` counts from 1.
 void lies(const char* name, int ersteMitSuperzahl, std::vector<Roh>& ziehungen)
 {
-    std::ifstream datei(kDaten / name);
+    std::ifstream datei(kEchteDaten / name);
     int nr = 0;
     for (std::string zeile; std::getline(datei, zeile);) {
         Roh roh;
@@ -38,9 +37,9 @@ class EchteKombinationen : public testing::TestWithParam<int> {
 protected:
     void SetUp() override
     {
-        if (!std::filesystem::exists(kDaten / "SALOTTO.DAT"))
+        if (!std::filesystem::exists(kEchteDaten / "SALOTTO.DAT"))
             GTEST_SKIP() << "keine echten Ziehungen";
-        archiv_.ProgrammVerzeichnis = kDaten.string() + "/";
+        archiv_.ProgrammVerzeichnis = kEchteDaten.string() + "/";
         LadeAlleZiehungen(archiv_, GetParam(), {});
         if ((GetParam() & 1) != 0)
             lies("SALOTTO.DAT", 1887, roh_);

@@ -1,6 +1,6 @@
 #include "shell/app/Menuetafel.h"
 #include "shell/elements/Bildschirm.h"
-#include "tools/drive/tests/Programmbuehne.h"
+#include "testhilfen/Programmbuehne.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,7 @@
 #include "archive/logic/Ziehungsdatei.h"
 #include "statistics/logic/Haeufigkeit.h"
 #include "statistics/logic/ZuletztVor.h"
+#include "testhilfen/Datenordner.h"
 
 #include <array>
 #include <filesystem>
@@ -12,13 +13,11 @@
 
 namespace {
 
-const std::filesystem::path kDaten = "../shared/daten";
-
 using Zeilen = std::vector<std::string>;
 
 Zeilen liesZeilen(const std::string& name)
 {
-    std::ifstream datei(kDaten / name);
+    std::ifstream datei(kEchteDaten / name);
     Zeilen zeilen;
     for (std::string zeile; std::getline(datei, zeile);)
         zeilen.push_back(zeile);
@@ -65,9 +64,9 @@ protected:
     void SetUp() override
     {
         archiv_.Spielart = GetParam();
-        archiv_.ProgrammVerzeichnis = kDaten.string() + "/";
+        archiv_.ProgrammVerzeichnis = kEchteDaten.string() + "/";
         const std::string name(ziehungsdateiName(GetParam()));
-        if (!std::filesystem::exists(kDaten / name))
+        if (!std::filesystem::exists(kEchteDaten / name))
             GTEST_SKIP() << "keine echten Ziehungen";
         zeilen_ = liesZeilen(name);
         LadeZiehungsdatei(archiv_, {});

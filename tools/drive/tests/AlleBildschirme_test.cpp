@@ -2,7 +2,7 @@
 
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Zeilenansicht.h"
-#include "tools/drive/tests/Programmbuehne.h"
+#include "testhilfen/Programmbuehne.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

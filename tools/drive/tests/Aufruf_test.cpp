@@ -1,6 +1,6 @@
 // The program tombrix-drive itself: its options, its standard input and output, its exit status.
 
-#include "tools/drive/tests/Programmbuehne.h"
+#include "testhilfen/Programmbuehne.h"
 
 #include <QCoreApplication>
 #include <QProcess>

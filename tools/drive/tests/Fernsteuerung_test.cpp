@@ -3,8 +3,8 @@
 #include "shell/elements/Farben.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
+#include "testhilfen/Programmbuehne.h"
 #include "tools/drive/Fernsteuerung.h"
-#include "tools/drive/tests/Programmbuehne.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,5 +1,6 @@
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/Ziehungskalender.h"
+#include "testhilfen/Datenordner.h"
 #include "tools/muster/Spielwoche.h"
 
 #include <filesystem>
@@ -7,15 +8,13 @@
 
 namespace {
 
-constexpr auto kDaten = "../shared/daten";
-
 void vergleiche(std::int16_t spielart)
 {
-    if (!std::filesystem::exists(kDaten))
+    if (!gibtEchteDaten())
         GTEST_SKIP() << "no real draws";
     ZiehungsArchiv archiv;
     archiv.Spielart = spielart;
-    archiv.ProgrammVerzeichnis = kDaten;
+    archiv.ProgrammVerzeichnis = kEchteDaten.string();
     LadeZiehungsdatei(archiv, {});
     ASSERT_GE(archiv.AnzahlZiehungen, 757);
     for (std::int32_t nr = 1; nr <= archiv.AnzahlZiehungen; ++nr) {
