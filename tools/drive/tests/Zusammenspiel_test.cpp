@@ -5,7 +5,7 @@
 #include "engines/screens/frmZusammenFUENFW.h"
 #include "engines/screens/frmZusammenHGDV.h"
 #include "testhilfen/Testserver.h"
-#include "tools/drive/tests/Programmbuehne.h"
+#include "testhilfen/Programmbuehne.h"
 
 #include <QDir>
 #include <QFile>
