@@ -62,7 +62,10 @@ QPushButton* Knopfwand::baueKnopf(const Menueknopf& eintrag)
     const int schrift = knopf->fontMetrics().size(Qt::TextShowMnemonic, knopf->text()).width();
     knopf->setObjectName(eintrag.name);
     knopf->setMinimumSize(schrift + 2 * kSchmalerRand, kKnopfhoehe);
-    connect(knopf, &QPushButton::clicked, this, [this, eintrag] { beiKlick_(eintrag); });
+    connect(knopf, &QPushButton::clicked, this, [this, knopf, eintrag] {
+        knopf->setFocus(); // its underlined letter leaves the focus where it was
+        beiKlick_(eintrag);
+    });
     knoepfe_[eintrag.name] = {knopf, eintrag};
     return knopf;
 }
