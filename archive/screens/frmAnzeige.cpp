@@ -5,6 +5,7 @@
 #include "archive/screens/Spielartlader.h"
 #include "archive/screens/Ziehungsfelder.h"
 #include "archive/screens/Ziehungsspeicher.h"
+#include "shell/elements/Infotafel.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
@@ -18,12 +19,18 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTextDocument>
 #include <QTextEdit>
+
+#include <cmath>
+#include <memory>
+#include <optional>
 
 namespace {
 
 constexpr auto kTitel = "Neue Ziehungen eingeben (Aktualisieren), gespeicherte Ziehungen anzeigen.";
 constexpr int kJahreZurWahl = 101;
+constexpr int kAblaufbreite = 780;
 
 QString spielname(std::int16_t spielart)
 {
@@ -37,6 +44,33 @@ QString zweistellig(int zahl)
     return qt(Format(zahl, "00"));
 }
 
+/// What the user has typed as a Spieljahr; nothing unless it has four digits.
+std::optional<int> spieljahr(const QString& eingabe)
+{
+    const int jahr = eingabe.toInt();
+    return eingabe.size() == 4 && jahr >= 1000 ? std::optional(jahr) : std::nullopt;
+}
+
+/// A text to read, as high as it is long.
+class Ablauftext final : public QTextEdit {
+public:
+    Ablauftext()
+    {
+        setObjectName("Text11");
+        setReadOnly(true);
+        setTabChangesFocus(true);
+        setPlainText(AnzeigeTexte::kAblauf);
+    }
+
+    QSize sizeHint() const override
+    {
+        const std::unique_ptr<QTextDocument> text(document()->clone());
+        text->setTextWidth(kAblaufbreite);
+        return QSize(kAblaufbreite, static_cast<int>(std::ceil(text->size().height()))) +
+               QSize(2 * frameWidth(), 2 * frameWidth());
+    }
+};
+
 } // namespace
 
 frmAnzeige::frmAnzeige(Umgebung& umgebung) : Bildschirm(umgebung, "frmAnzeige", kTitel)
@@ -46,16 +80,17 @@ frmAnzeige::frmAnzeige(Umgebung& umgebung) : Bildschirm(umgebung, "frmAnzeige", 
     baueKnoepfe();
 
     // clang-format off
-    setzeInhalt(spalte({
-        zeile({
-            dehnbar(spalte({Rahmen2, dehnbar(Rahmen3)})),
+    setzeInhalt(zeile({
+        dehnbar(spalte({Rahmen2, dehnbar(Rahmen3), fEditor})),
+        spalte({
             Rahmen1,
-            Frame1,
+            luecke(),
+            zeile({luecke(), Befehl5, Befehl2, Befehl1}),
         }),
-        zeile({fEditor, luecke(), Befehl5, Befehl2, Befehl1}),
     }));
     // clang-format on
     verbinde();
+    Label6->setFocus();
 }
 
 void frmAnzeige::baueAnzeige()
@@ -86,7 +121,9 @@ void frmAnzeige::baueEingabe()
         feld->setAlignment(Qt::AlignCenter);
         feld->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         feld->setMinimumWidth(30);
-        zahlen.push_back(eng(spalte({bezeichnung("lblKopf" + kopf, kopf), feld})));
+        QLabel* ueberschrift = bezeichnung("lblKopf" + kopf, kopf);
+        ueberschrift->setAlignment(Qt::AlignCenter);
+        zahlen.push_back(eng(spalte({ueberschrift, feld})));
     };
     feld(lblZ, "lblZ", ab(1));
     for (std::size_t i = 0; i < lblZ.size(); ++i)
@@ -133,7 +170,6 @@ void frmAnzeige::baueEingabe()
             {bezeichnung("lblSpieljahr", "Spieljahr:"), Kombi1},
             {bezeichnung("lblSpielwoche", "Spielwoche:"), Kombi2},
         }),
-        luecke(),
         zeile({dehnbar(Befehl8), cmdClear}),
     }));
     // clang-format on
@@ -153,29 +189,25 @@ void frmAnzeige::baueKnoepfe()
     Befehl2 = befehl("Befehl2", "&Info");
     Befehl1 = befehl("Befehl1", "<< &Zurück");
 
-    Text11 = new QTextEdit(this);
-    Text11->setObjectName("Text11");
-    Text11->setReadOnly(true);
-    Text11->setPlainText(AnzeigeTexte::kAblauf);
-    Command1 = befehl("Command1", "ok");
-    Frame1 = rahmen("Frame1", "Info", spalte({dehnbar(Text11), zeile({luecke(), Command1})}));
-    Frame1->setMinimumWidth(Rahmen1->sizeHint().width());
-    Frame1->hide();
+    Frame1 = new Infotafel(this, new Ablauftext, {.rahmen = "Frame1", .ok = "Command1", .titel = "Info"});
+    behaltePlatz(Rahmen1);
 }
 
 void frmAnzeige::verbinde()
 {
     connect(HBildlauf1, &QScrollBar::valueChanged, this, [this](int nr) { zeigeZiehung(nr); });
+    Liste1->beiAuswahl = [this] { HBildlauf1->setValue(static_cast<int>(Liste1->modell().ListIndex()) + 1); };
     connect(chkTippfeld, &QCheckBox::clicked, this, [this] { schalteTippmuster(); });
-    connect(cmbSZ, &QComboBox::currentIndexChanged, this, [this] { zeigeEingabe(); });
+    connect(cmbSZ, &QComboBox::currentIndexChanged, this, [this] { zeigeSuperzahl(); });
     Label6->beiKlick = [this](int) {
         chkTippfeld->setChecked(false);
-        zeigeEingabe();
+        zeigeZahlen();
+        zeigeSuperzahl();
     };
     bei(cmdClear, [this] { leereEingabe(); });
     bei(Befehl1, [this] { schliesse(); });
-    bei(Befehl2, [this] { zeigeInfo(true); });
-    bei(Command1, [this] { zeigeInfo(false); });
+    bei(Befehl2, [this] { zeigeInfo(); });
+    Frame1->beimWeglegen = [this] { Rahmen1->show(); };
     bei(Befehl3, [this] { oeffneEditor("MS-Write wurde nicht gefunden. Verwenden Sie einen "); });
     bei(cmdNotepad, [this] { oeffneEditor("Notepad wurde nicht gefunden. Verwenden Sie einen "); });
     bei(Befehl5, [this] { umgebung().boxen.info(kProgrammtitel, AnzeigeTexte::kHilfe); });
@@ -189,6 +221,7 @@ void frmAnzeige::verbinde()
 
 void frmAnzeige::beimZeigen()
 {
+    Bezeichnung13->setText(spielname(umgebung().archiv.Spielart));
     const std::chrono::weekday wochentag{std::chrono::local_days{umgebung().uhr.heute()}};
     if (wochentag == std::chrono::Saturday)
         schalteAufMenue(Samstagslotto);
@@ -207,7 +240,6 @@ void frmAnzeige::frischeAuf()
 {
     const ZiehungsArchiv& archiv = umgebung().archiv;
     const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
-    Bezeichnung13->setText(spielname(archiv.Spielart));
     lblArt->setText("Aktive Ziehungsdatei: " + dateiname());
     setzeHinweis(cmdNotepad, "Korrigieren oder Aktualisieren der Datei " + dateiname() + " mit Notepad.exe");
     setzeHinweis(Befehl3, "Korrigieren oder Aktualisieren der Datei " + dateiname() + " mit MS-Write");
@@ -221,13 +253,13 @@ void frmAnzeige::frischeAuf()
     Bezeichnung2->setText(
         QString(" Gespeicherte Ziehungen von %1 bis %2 -")
             .arg(istSamstag(archiv.Spielart) ? "1955/41" : "1986/23", qt(jahrUndWoche(archiv, letzte))));
+    fuelleListe();
     {
         const QSignalBlocker stumm(HBildlauf1);
         HBildlauf1->setRange(std::min(1, archiv.AnzahlZiehungen), archiv.AnzahlZiehungen);
         HBildlauf1->setValue(archiv.AnzahlZiehungen);
     }
     zeigeZiehung(archiv.AnzahlZiehungen);
-    fuelleListe();
 }
 
 void frmAnzeige::fuelleListe()
@@ -235,8 +267,6 @@ void frmAnzeige::fuelleListe()
     const ZiehungsArchiv& archiv = umgebung().archiv;
     Liste1->modell().aufAnfrage(static_cast<std::size_t>(archiv.AnzahlZiehungen),
                                 [&archiv](std::size_t zeile) { return listenzeile(archiv, zeile + 1); });
-    Liste1->modell().SetListIndex(archiv.AnzahlZiehungen - 1);
-    Liste1->zeigeZeile(std::max(0, archiv.AnzahlZiehungen - 1));
 }
 
 void frmAnzeige::zeigeZiehung(int nr)
@@ -252,6 +282,8 @@ void frmAnzeige::zeigeZiehung(int nr)
     Texte->zeige(archiv, stelle);
     bezeichnung23->setText(QString("Ziehung %1  (von %2 gespeicherten)").arg(nr).arg(archiv.AnzahlZiehungen));
     lblDate->setText(qt(archiv.Datum[stelle]));
+    Liste1->modell().SetListIndex(nr - 1);
+    Liste1->zeigeZeile(nr - 1);
     if (chkTippfeld->isChecked())
         zeigeImTippfeld(stelle);
 }
@@ -269,35 +301,37 @@ void frmAnzeige::zeigeImTippfeld(std::size_t nr)
 
 void frmAnzeige::schalteTippmuster()
 {
-    if (!chkTippfeld->isChecked())
-        return;
-    Befehl8->setEnabled(false);
-    for (QLabel* zahl : lblZ)
-        zahl->clear();
-    lblSZ->clear();
-    zeigeZiehung(HBildlauf1->value());
+    leereEingabe();
+    if (chkTippfeld->isChecked())
+        zeigeZiehung(HBildlauf1->value());
 }
 
-void frmAnzeige::zeigeEingabe()
+void frmAnzeige::zeigeZahlen()
 {
     const std::vector<int> zahlen = Label6->modell().gewaehlte();
     for (std::size_t i = 0; i < lblZ.size(); ++i)
         lblZ[i]->setText(i < zahlen.size() ? QString::number(zahlen[i]) : QString());
+}
+
+/// The numbers of a draw that is only shown stand in the grid alone, so that they cannot be saved a second time.
+void frmAnzeige::zeigeSuperzahl()
+{
     lblSZ->setText(cmbSZ->currentText());
-    Befehl8->setEnabled(!chkTippfeld->isChecked() && zahlen.size() == lblZ.size() && cmbSZ->currentIndex() >= 0);
+    Befehl8->setEnabled(!lblZ.back()->text().isEmpty() && cmbSZ->currentIndex() >= 0);
 }
 
 void frmAnzeige::leereEingabe()
 {
     Label6->zeige({});
+    zeigeZahlen();
     cmbSZ->setCurrentIndex(-1);
-    zeigeEingabe();
+    zeigeSuperzahl();
 }
 
 NeueZiehung frmAnzeige::eingabe() const
 {
     NeueZiehung ziehung;
-    ziehung.jjjj = Kombi1->currentText().toInt();
+    ziehung.jjjj = spieljahr(Kombi1->currentText()).value_or(0);
     ziehung.sw = Kombi2->currentText().toInt();
     const std::vector<int> zahlen = Label6->modell().gewaehlte();
     std::copy_n(zahlen.begin(), std::min(zahlen.size(), ziehung.zahlen.size()), ziehung.zahlen.begin());
@@ -308,7 +342,7 @@ NeueZiehung frmAnzeige::eingabe() const
 void frmAnzeige::speichere()
 {
     const NeueZiehung ziehung = eingabe();
-    if (ziehung.jjjj < 1000 || ziehung.jjjj > 9999) {
+    if (ziehung.jjjj == 0) {
         umgebung().boxen.info("Lotto-Nachricht", "Jahreszahlen 4-stellig eingeben !");
         return;
     }
@@ -317,6 +351,7 @@ void frmAnzeige::speichere()
         return;
     frischeAuf();
     leereEingabe();
+    Label6->setFocus();
     umgebung().boxen.info(kInfotitel,
                           "Die Gewinnzahlen der letzten Spielwoche wurden in Datei " + datei + " gespeichert !");
 }
@@ -331,16 +366,15 @@ void frmAnzeige::schalteAufMenue(std::int16_t spielart)
 {
     const WarteAnzeige warten(*this);
     umgebung().menue->waehleSpielart(spielart);
-    leereEingabe();
+    Bezeichnung13->setText(spielname(spielart));
     frischeAuf();
 }
 
 void frmAnzeige::schalteAufMittwochB()
 {
     ladeSpielart(umgebung(), MittwochslottoB);
-    leereEingabe();
-    frischeAuf();
     Bezeichnung13->setText("MITTWOCHSLOTTO (B)");
+    frischeAuf();
 }
 
 void frmAnzeige::ladeNeu()
@@ -358,8 +392,8 @@ void frmAnzeige::oeffneEditor(const QString& meldung)
         Befehl9->setEnabled(true);
 }
 
-void frmAnzeige::zeigeInfo(bool zeigen)
+void frmAnzeige::zeigeInfo()
 {
-    Rahmen1->setVisible(!zeigen);
-    Frame1->setVisible(zeigen);
+    Rahmen1->hide();
+    Frame1->zeige();
 }

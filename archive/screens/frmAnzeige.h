@@ -3,8 +3,8 @@
 #include "archive/logic/Neueingabe.h"
 #include "shell/elements/Bildschirm.h"
 
+class Infotafel;
 class QScrollBar;
-class QTextEdit;
 class Tippfeld7x7View;
 class Ziehungsfelder;
 
@@ -26,7 +26,8 @@ private:
     void fuelleListe();
     void zeigeImTippfeld(std::size_t nr);
     void schalteTippmuster();
-    void zeigeEingabe();
+    void zeigeZahlen();
+    void zeigeSuperzahl();
     void leereEingabe();
 
     NeueZiehung eingabe() const;
@@ -37,10 +38,11 @@ private:
     void schalteAufMittwochB();
     void ladeNeu();
     void oeffneEditor(const QString& meldung);
-    void zeigeInfo(bool zeigen);
+    void zeigeInfo();
     QString dateiname() const;
 
-    QGroupBox *Rahmen1, *Rahmen2, *Rahmen3, *fEditor, *Frame1;
+    QGroupBox *Rahmen1, *Rahmen2, *Rahmen3, *fEditor;
+    Infotafel* Frame1;
     QScrollBar* HBildlauf1;
     Ziehungsfelder* Texte; ///< Text1 to Text10
     QLabel *lblDate, *bezeichnung23, *Bezeichnung24, *lblArt, *Bezeichnung13, *Bezeichnung2, *lblSZ;
@@ -50,6 +52,5 @@ private:
     std::array<QLabel*, 6> lblZ; ///< lblZ(1) to lblZ(6)
     QComboBox *cmbSZ, *Kombi1, *Kombi2;
     QPushButton *Befehl1, *Befehl2, *Befehl3, *Befehl5, *Befehl7, *Befehl8, *Befehl9, *Befehl10, *Befehl11, *Befehl12;
-    QPushButton *cmdClear, *cmdNotepad, *Command1;
-    QTextEdit* Text11;
+    QPushButton *cmdClear, *cmdNotepad;
 };

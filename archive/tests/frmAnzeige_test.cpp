@@ -33,6 +33,7 @@ protected:
             texte << lies(QString("lblZ(%1)").arg(i));
         return texte;
     }
+    QWidget* feld(const QString& name) { return qobject_cast<QWidget*>(bedienung.finde(name)); }
     int letzteZeile() { return bedienung.anzahl("Liste1").zeilen.value(0).toInt() - 1; }
 };
 
@@ -109,6 +110,76 @@ TEST_F(Anzeigebildschirm, DasTippmusterZeigtDieZiehungUndEinKlickBeendetEs)
     klicke(QString("Label6(%1)").arg(buehne.archiv.z1[100]));
     EXPECT_TRUE(zustand("chkTippfeld").contains("checked=false"));
     EXPECT_EQ(zahlen().last(), "");
+}
+
+TEST_F(Anzeigebildschirm, EineGezeigteZiehungWirdNichtZurEingabe)
+{
+    starte();
+    oeffneAm(kFreitag);
+    tippeZahlen({3, 12, 24, 33, 41, 49});
+    setze("chkTippfeld", "on");
+    setze("cmbSZ", "4");
+    EXPECT_EQ(lies("lblSZ"), "4");
+    EXPECT_EQ(zahlen(), QStringList(6, ""));
+    EXPECT_FALSE(bedienbar("Befehl8"));
+    setze("chkTippfeld", "off");
+    EXPECT_EQ(lies("lblSZ"), "");
+    EXPECT_EQ(lies("cmbSZ"), "");
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        EXPECT_TRUE(zustand(QString("Label6(%1)").arg(zahl)).contains("bold=false")) << zahl;
+    setze("cmbSZ", "4");
+    EXPECT_FALSE(bedienbar("Befehl8"));
+}
+
+TEST_F(Anzeigebildschirm, ListeUndBildlaufZeigenDieselbeZiehung)
+{
+    starte();
+    oeffneAm(kFreitag);
+    setze("chkTippfeld", "on");
+    waehle("Liste1", {1999});
+    EXPECT_EQ(lies("HBildlauf1"), "2000");
+    EXPECT_EQ(lies("Text1"), QString::number(buehne.archiv.jjjj[2000]));
+    EXPECT_TRUE(lies("bezeichnung23").startsWith("Ziehung 2000  (von "));
+    EXPECT_TRUE(zustand(QString("Label6(%1)").arg(buehne.archiv.z6[2000])).contains("bold=true"));
+    tippe("Liste1", "Down");
+    EXPECT_EQ(lies("HBildlauf1"), "2001");
+    tippe("Liste1", "Home");
+    EXPECT_EQ(lies("lblDate"), "So, 09.10.1955");
+    setze("HBildlauf1", "100");
+    EXPECT_EQ(bedienung.gewaehlte("Liste1").zeilen, QStringList{"99"});
+    setze("chkTippfeld", "off");
+    tippeZahlen({3, 12, 24, 33, 41, 49});
+    waehle("Liste1", {4});
+    EXPECT_EQ(zahlen(), (QStringList{"3", "12", "24", "33", "41", "49"})) << "browsing leaves the entry alone";
+}
+
+TEST_F(Anzeigebildschirm, DieFelderDerGezeigtenZiehungSindNurZumLesen)
+{
+    starte();
+    oeffneAm(kFreitag);
+    for (int i = 1; i <= 10; ++i) {
+        const QString name = QString("Text%1").arg(i);
+        EXPECT_FALSE(feld(name)->focusPolicy() & Qt::TabFocus) << i;
+        EXPECT_FALSE(zustand(name).contains("back=#ffffff")) << i;
+        EXPECT_FALSE(bedienung.setze(name, "1").gelungen()) << i;
+    }
+    EXPECT_EQ(feld("Label6(1)")->window()->focusWidget(), feld("Label6(1)")->parentWidget()) << "the entry comes first";
+}
+
+TEST_F(Anzeigebildschirm, DerKnopfZumSpeichernBleibtBeiDerEingabe)
+{
+    starte();
+    oeffneAm(kFreitag);
+    const auto abstand = [this] {
+        const QWidget* woche = feld("Kombi2");
+        return feld("Befehl8")->geometry().top() - woche->geometry().bottom();
+    };
+    const int vorher = abstand();
+    const int breite = feld("Befehl8")->width();
+    feld("Befehl8")->window()->resize(1900, 1000);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(abstand(), vorher);
+    EXPECT_EQ(feld("Befehl8")->width(), breite);
 }
 
 TEST_F(Anzeigebildschirm, SpeichernGehtErstMitSechsZahlenUndSuperzahl)
@@ -205,7 +276,7 @@ TEST_F(Anzeigebildschirm, EinFalschesJahrSpeichertNichts)
     oeffneAm(kFreitag);
     tippeZahlen({3, 12, 24, 33, 41, 49});
     setze("cmbSZ", "0");
-    for (const char* jahr : {"abcd", "", "26", "20266", "-999"}) {
+    for (const char* jahr : {"abcd", "", "26", "20266", "-999", "02026", "+999"}) {
         setze("Kombi1", jahr);
         klicke("Befehl8");
         EXPECT_EQ(boxen(), QStringList{"info|Lotto-Nachricht|Jahreszahlen 4-stellig eingeben !"}) << jahr;
@@ -241,18 +312,56 @@ TEST_F(Anzeigebildschirm, NachMittwochBGehtNichtsInEineAndereDatei)
     tippeZahlen({3, 12, 24, 33, 41, 49});
     setze("cmbSZ", "5");
     klicke("Befehl11");
-    EXPECT_EQ(lies("Bezeichnung13"), "MITTWOCHSLOTTO (B)");
-    EXPECT_FALSE(bedienbar("Befehl8")) << "what was entered for another game is gone";
-    tippeZahlen({1, 2, 3, 4, 5, 6});
-    setze("cmbSZ", "5");
     buehne.boxen.antworte("yes");
     klicke("Befehl8");
     EXPECT_EQ(inhalt("SALOTTO.DAT"), samstag);
     EXPECT_EQ(inhalt("MALOTTO.DAT"), mittwoch);
-    EXPECT_EQ(inhalt("MBLOTTO.DAT"), mittwochB + "2000,49,01,02,03,04,05,06,00,5\r\n");
+    EXPECT_EQ(inhalt("MBLOTTO.DAT"), mittwochB + "2000,49,03,12,24,33,41,49,00,5\r\n");
     klicke("Befehl7");
     EXPECT_EQ(buehne.archiv.Spielart, Samstagslotto);
     EXPECT_EQ(lies("lblArt"), "Aktive Ziehungsdatei: SALOTTO.DAT");
+}
+
+TEST_F(Anzeigebildschirm, DerWechselDerSpielartBehaeltDieEingabe)
+{
+    starte();
+    oeffneAm(kFreitag);
+    tippeZahlen({3, 12, 24, 33, 41, 49});
+    setze("cmbSZ", "5");
+    for (const auto& [knopf, woche] : {std::pair("Befehl10", "47"), std::pair("Befehl11", "49"),
+                                       std::pair("Befehl7", "47"), std::pair("cmdNotepad", "47")}) {
+        SCOPED_TRACE(knopf);
+        klicke(knopf);
+        EXPECT_EQ(zahlen(), (QStringList{"3", "12", "24", "33", "41", "49"}));
+        EXPECT_EQ(lies("lblSZ"), "5");
+        EXPECT_EQ(lies("Kombi2"), woche);
+        EXPECT_TRUE(bedienbar("Befehl8"));
+    }
+    klicke("Befehl9");
+    EXPECT_EQ(zahlen().last(), "49");
+    EXPECT_TRUE(bedienbar("Befehl8"));
+}
+
+TEST_F(Anzeigebildschirm, DieSpielartHeisstNachDemSpeichernWieVorher)
+{
+    starte();
+    klicke("Option3");
+    oeffneAm(kFreitag);
+    const auto speichere = [this] {
+        tippeZahlen({3, 12, 24, 33, 41, 49});
+        setze("cmbSZ", "5");
+        buehne.boxen.antworte("yes");
+        klicke("Befehl8");
+        return boxen().value(0);
+    };
+    EXPECT_TRUE(speichere().contains("***  MITTWOCHSLOTTO(B) 6 aus 49  ***"));
+    EXPECT_EQ(lies("Bezeichnung13"), "MITTWOCHSLOTTO(B) 6 aus 49");
+    klicke("Befehl11");
+    EXPECT_TRUE(speichere().contains("***  MITTWOCHSLOTTO (B)  ***"));
+    EXPECT_EQ(lies("Bezeichnung13"), "MITTWOCHSLOTTO (B)");
+    klicke("cmdNotepad");
+    klicke("Befehl9");
+    EXPECT_EQ(lies("Bezeichnung13"), "MITTWOCHSLOTTO (B)");
 }
 
 TEST_F(Anzeigebildschirm, DatenDateiErzeugenNormtUndBehaeltDieAlte)
@@ -301,11 +410,18 @@ TEST_F(Anzeigebildschirm, HilfeInfoUndHinweise)
     oeffneAm(kFreitag);
     klicke("Befehl5");
     EXPECT_TRUE(boxen().value(0).contains("Es gibt Spieljahre mit 52 oder 53 Spielwochen."));
+    const QSize vorher = feld("Befehl2")->window()->size();
     klicke("Befehl2");
     EXPECT_FALSE(sichtbar("Rahmen1"));
     EXPECT_TRUE(lies("Text11").startsWith("Ablauf der Aktualisierung: \nStep 1:"));
     EXPECT_EQ(lies("Text11").count('\n'), 19);
+    EXPECT_TRUE(feld("Frame1")->parentWidget()->rect().contains(feld("Frame1")->geometry()));
+    EXPECT_EQ(feld("Frame1")->window()->size(), vorher);
     klicke("Command1");
+    EXPECT_TRUE(sichtbar("Rahmen1"));
+    klicke("Befehl2");
+    tippe("Command1", "Esc");
+    EXPECT_FALSE(sichtbar("Frame1"));
     EXPECT_TRUE(sichtbar("Rahmen1"));
     ueberfahre("Befehl10");
     EXPECT_EQ(titel(), "Auf die Spielart Mittwochslotto schalten, um die Ziehungsdatei  Malotto.dat zu aktualisieren.");

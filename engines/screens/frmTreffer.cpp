@@ -83,13 +83,16 @@ frmTreffer::frmTreffer(Umgebung& umgebung)
             dehnbar(spalte({
                 chkHoeher,
                 zeile({raster(3, {lblK, Label1, lbl8, lblV, lblVergleich, luecke()}), luecke()}),
-                zeile({Command1, cmdAbbruch, cmdSortAuf, cmdSortAb, cmdClip, luecke(), cmdInfo, cmdEnd}),
+                zeile({Command1, cmdAbbruch, cmdSortAuf, cmdSortAb, cmdClip, luecke()}),
             })),
         }),
         dehnbar(zeile({
             dehnbar(spalte({dehnbar(anordnung(Rangliste::Drei)), dehnbar(anordnung(Rangliste::Sechs))})),
             dehnbar(spalte({dehnbar(anordnung(Rangliste::Vier)), dehnbar(anordnung(Rangliste::Loser))})),
-            dehnbar(spalte({dehnbar(anordnung(Rangliste::Fuenf)), dehnbar(FrameDetail)})),
+            dehnbar(spalte({
+                dehnbar(anordnung(Rangliste::Fuenf)),
+                dehnbar(spalte({dehnbar(FrameDetail), zeile({luecke(), cmdInfo, cmdEnd})})),
+            })),
         })),
     }));
     // clang-format on

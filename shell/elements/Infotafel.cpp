@@ -10,12 +10,25 @@ namespace {
 
 constexpr int kBreite = 440;
 
-QLabel* absatz(const QString& text, const char* name)
+QLabel* beschriftung(const QString& text, const char* name)
 {
     auto* feld = new QLabel(text);
     feld->setObjectName(name);
     feld->setForegroundRole(QPalette::ToolTipText);
+    return feld;
+}
+
+QLabel* absatz(const QString& text, const char* name)
+{
+    QLabel* feld = beschriftung(text, name);
     feld->setWordWrap(true);
+    return feld;
+}
+
+QLabel* ueberschrift(const QString& text)
+{
+    QLabel* feld = beschriftung(text, "InfotafelTitel");
+    alsUeberschrift(feld);
     return feld;
 }
 
@@ -36,7 +49,11 @@ Infotafel::Infotafel(QWidget* bildschirm, QWidget* erklaerung, const InfotafelNa
     setBackgroundRole(QPalette::ToolTipBase);
     ok_->setObjectName(namen.ok);
     connect(ok_, &QPushButton::clicked, this, &QWidget::hide);
-    QLayout* inhalt = spalte({erklaerung, zeile({luecke(), ok_})});
+    setWindowTitle(namen.titel);
+    Bloecke teile{dehnbar(erklaerung), zeile({luecke(), ok_})};
+    if (!windowTitle().isEmpty())
+        teile.insert(teile.begin(), ueberschrift(windowTitle()));
+    QLayout* inhalt = spalte(teile);
     inhalt->setContentsMargins(Stil::kRand, Stil::kRand, Stil::kRand, Stil::kRand);
     setLayout(inhalt);
     hide();
@@ -53,4 +70,12 @@ void Infotafel::zeige()
     show();
     raise();
     ok_->setFocus();
+}
+
+/// A screen that goes away hides its frame too; only a frame hidden by itself was put away.
+void Infotafel::hideEvent(QHideEvent* ereignis)
+{
+    QFrame::hideEvent(ereignis);
+    if (isHidden() && beimWeglegen)
+        beimWeglegen();
 }

@@ -2,6 +2,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QPushButton;
 
 /// How a tool calls its info frame and what is in it.
@@ -10,6 +12,7 @@ struct InfotafelNamen {
     const char* text = "InfotafelText";
     const char* ok = "InfotafelOk";
     const char* okText = "ok";
+    const char* titel = ""; ///< above the explanation
 };
 
 /// The info frame of a tool: its explanation over the screen, until "ok".
@@ -20,6 +23,11 @@ public:
     Infotafel(QWidget* bildschirm, QWidget* erklaerung, const InfotafelNamen& namen);
     /// Shows it in the middle of the screen, which grows if it is too small.
     void zeige();
+
+    std::function<void()> beimWeglegen; ///< the user has read it
+
+protected:
+    void hideEvent(QHideEvent* ereignis) override;
 
 private:
     QPushButton* ok_;

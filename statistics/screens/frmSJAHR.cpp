@@ -87,7 +87,7 @@ frmSJAHR::frmSJAHR(Umgebung& umgebung)
                 zeile({Bezeichnung7, Bezeichnung8, Bezeichnung9, luecke()}),
             })),
             luecke(),
-            zeile({Befehl3, luecke(), Befehl2}),
+            zeile({Befehl3, luecke()}),
         }),
         dehnbar(spalte({
             Bezeichnung3, dehnbar(Liste1), lblMaximum,
@@ -95,7 +95,7 @@ frmSJAHR::frmSJAHR(Umgebung& umgebung)
         }), 5),
         dehnbar(spalte({
             Bezeichnung11, dehnbar(Liste2), lblMax2,
-            zeile({Befehl6, luecke()}),
+            zeile({Befehl6, luecke(), Befehl2}),
         }), 4),
     }));
     // clang-format on

@@ -59,6 +59,19 @@ QRect aufSchirm(const QWidget* feld)
     return {feld->mapToGlobal(QPoint(0, 0)), feld->size()};
 }
 
+/// The button that leads back, by its caption: one with nothing below it and nothing to its right. `frmpos_calc` has
+/// arrows of the same look, and no such button.
+const QAbstractButton* schliessknopf(const Bildschirm& bildschirm)
+{
+    static const QStringList kBeschriftungen{"<<", "<< Zurück", "Zurück", "Beenden"};
+    if (bildschirm.name() == "frmpos_calc")
+        return nullptr;
+    for (const auto* knopf : bildschirm.findChildren<QAbstractButton*>())
+        if (knopf->isVisible() && kBeschriftungen.contains(knopf->text().remove('&').trimmed()))
+            return knopf;
+    return nullptr;
+}
+
 /// The game's name and its shadow lie on each other on purpose.
 bool sindSchatten(const QWidget* a, const QWidget* b)
 {
@@ -118,6 +131,24 @@ TEST_F(AlleBildschirme, LassenNichtsUebereinanderLiegen)
             }
         }
     });
+}
+
+TEST_F(AlleBildschirme, HabenDenKnopfZumSchliessenUntenRechts)
+{
+    int mitKnopf = 0;
+    jeden([&mitKnopf](const Bildschirm& bildschirm) {
+        const QAbstractButton* knopf = schliessknopf(bildschirm);
+        if (!knopf || bildschirm.name() == "frmLSTART")
+            return;
+        ++mitKnopf;
+        for (const QWidget* feld : sichtbareFelder(bildschirm)) {
+            if (!istSteuerelement(feld) || feld->objectName() == "Statuszeile")
+                continue;
+            EXPECT_LE(aufSchirm(feld).right(), aufSchirm(knopf).right()) << feld->objectName().toStdString();
+            EXPECT_LE(aufSchirm(feld).bottom(), aufSchirm(knopf).bottom()) << feld->objectName().toStdString();
+        }
+    });
+    EXPECT_GE(mitKnopf, 18);
 }
 
 TEST_F(AlleBildschirme, GebenJedemFeldEinenNamenUndKeinenZweimal)
