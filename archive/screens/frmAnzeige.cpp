@@ -195,6 +195,7 @@ void frmAnzeige::baueKnoepfe()
 
 void frmAnzeige::verbinde()
 {
+    hauptaktionen({Befehl8});
     connect(HBildlauf1, &QScrollBar::valueChanged, this, [this](int nr) { zeigeZiehung(nr); });
     Liste1->beiAuswahl = [this] { HBildlauf1->setValue(static_cast<int>(Liste1->modell().ListIndex()) + 1); };
     connect(chkTippfeld, &QCheckBox::clicked, this, [this] { schalteTippmuster(); });
