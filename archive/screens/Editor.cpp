@@ -5,15 +5,19 @@
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Dateien.h"
 
-QString aktiveZiehungsdatei(const Umgebung& umgebung)
+QString ziehungsdatei(const Umgebung& umgebung, std::int16_t spielart)
 {
-    const ZiehungsArchiv& archiv = umgebung.archiv;
-    return qt(findeDatei(archiv.ProgrammVerzeichnis, ziehungsdateiName(archiv.Spielart)).string());
+    return qt(findeDatei(umgebung.archiv.ProgrammVerzeichnis, ziehungsdateiName(spielart)).string());
 }
 
-bool oeffneImEditor(Umgebung& umgebung, const QString& meldung)
+QString aktiveZiehungsdatei(const Umgebung& umgebung)
 {
-    if (umgebung.oeffner.oeffne(aktiveZiehungsdatei(umgebung)))
+    return ziehungsdatei(umgebung, umgebung.archiv.Spielart);
+}
+
+bool oeffneImEditor(Umgebung& umgebung, const QString& datei, const QString& meldung)
+{
+    if (umgebung.oeffner.oeffne(datei))
         return true;
     umgebung.boxen.info(kProgrammtitel, "ERROR 53: " + meldung);
     return false;

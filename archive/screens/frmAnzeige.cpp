@@ -389,7 +389,7 @@ void frmAnzeige::ladeNeu()
 void frmAnzeige::oeffneEditor(const QString& meldung)
 {
     const QString rest = " vorhandenen ASCII-Text-Editor um die Datei " + dateiname() + " zu aktualisieren.";
-    if (oeffneImEditor(umgebung(), meldung + rest))
+    if (oeffneImEditor(umgebung(), aktiveZiehungsdatei(umgebung()), meldung + rest))
         Befehl9->setEnabled(true);
 }
 

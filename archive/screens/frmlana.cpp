@@ -3,18 +3,20 @@
 #include "archive/logic/Dateiinhalt.h"
 #include "archive/logic/ZiehungsArchiv.h"
 #include "archive/screens/Editor.h"
+#include "shell/elements/Infotafel.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 
 namespace {
 
 constexpr std::size_t kGroessteDatei = std::size_t{16} << 20;
+constexpr auto kKorrekte = "Korrekte Ziehungen:";
+constexpr auto kFalsche = "Falsche Ziehungen:";
 
 const std::vector<std::string> kFormat{
     "Das Programm prüft alle Datensätze der Gewinnzahldatei ",
@@ -36,31 +38,35 @@ const std::vector<std::string> kFormat{
 
 frmlana::frmlana(Umgebung& umgebung)
     : Bildschirm(umgebung, "frmlana", "Analyse der Gewinnzahldatei " + qt(ziehungsdateiName(umgebung.archiv.Spielart))),
+      spielart_(umgebung.archiv.Spielart),
       Ziehungsdatei(qt(ziehungsdateiName(umgebung.archiv.Spielart)))
 {
-    Bezeichnung1 =
+    auto* Bezeichnung1 =
         bezeichnung("Bezeichnung1", "Überprüfung der Datensatzstruktur von Gewinnzahldatei " + Ziehungsdatei);
-    Bezeichnung2 =
+    auto* Bezeichnung2 =
         listenkopf("Bezeichnung2",
                    "Fehlernummer                                                                   falscher Datensatz");
-    Bezeichnung3 = listenkopf("Bezeichnung3", " JJSW des vorherigen, korrekten Datensatzess");
-    Bezeichnung4 = bezeichnung("Bezeichnung4", "Korrekte Ziehungen:");
-    Bezeichnung5 = bezeichnung("Bezeichnung5", "Falsche Ziehungen:");
-    Label1 = bezeichnung("Label1", "Überprüft Ziehung: ");
+    auto* Bezeichnung3 = listenkopf("Bezeichnung3", " JJSW des vorherigen, korrekten Datensatzess");
+    Bezeichnung4 = bezeichnung("Bezeichnung4", kKorrekte);
+    Bezeichnung5 = bezeichnung("Bezeichnung5", kFalsche);
+    auto* Label1 = bezeichnung("Label1", "Überprüft Ziehung: ");
     Bezeichnung6 = bezeichnung("Bezeichnung6");
     Liste1 = liste("Liste1");
     Liste2 = liste("Liste2");
-    Liste3 = liste("Liste3");
-    Befehl1 = befehl("Befehl1", "&Zurück");
-    Befehl2 = befehl("Befehl2", "Struktur &prüfen");
-    Befehl3 = befehl("Befehl3", "&Write");
-    Befehl4 = befehl("Befehl4", "&Dos-Editor");
-    Befehl5 = befehl("Befehl5", "Word&pad");
+    auto* Liste3 = liste("Liste3");
+    Rahmen1 = new Infotafel(this, Liste3, {.rahmen = "Rahmen1", .ok = "Befehl7", .titel = "Info"});
+    auto* Befehl1 = befehl("Befehl1", "&Zurück");
+    auto* Befehl2 = befehl("Befehl2", "Struktur &prüfen");
+    auto* Befehl3 = befehl("Befehl3", "&Write");
+    auto* Befehl4 = befehl("Befehl4", "&Dos-Editor");
+    auto* Befehl5 = befehl("Befehl5", "Word&pad");
     Befehl5->setShortcut({}); // Alt+P checks
-    Befehl6 = befehl("Befehl6", "&Info");
-    Befehl7 = befehl("Befehl7", "ok");
-    Rahmen1 = rahmen("Rahmen1", "Info", spalte({dehnbar(Liste3), zeile({luecke(), Befehl7})}));
-    fuelleListen();
+    auto* Befehl6 = befehl("Befehl6", "&Info");
+    Liste2->modell().fuelle({kStrukturfehler.begin(), kStrukturfehler.end()});
+    Liste2->setzeSichtbar(8, 84);
+    Liste3->modell().fuelle(kFormat);
+    Liste3->setzeSichtbar(static_cast<int>(kFormat.size()), 66);
+    zeigeFehlertabelle(false);
     alsUeberschrift(Bezeichnung1);
 
     // clang-format off
@@ -69,7 +75,7 @@ frmlana::frmlana(Umgebung& umgebung)
         zeile({Befehl2, Label1, Bezeichnung6, luecke(), Bezeichnung3}),
         Bezeichnung2,
         dehnbar(Liste1, 2),
-        zeile({dehnbar(Liste2), Rahmen1}),
+        dehnbar(Liste2),
         zeile({Bezeichnung4, luecke(), Bezeichnung5}),
         zeile({Befehl3, Befehl4, Befehl5, Befehl6, luecke(), Befehl1}),
     }));
@@ -89,20 +95,25 @@ frmlana::frmlana(Umgebung& umgebung)
     bei(Befehl5, [this] {
         oeffneEditor("WordPad wurde nicht gefunden. Verwenden Sie einen  vorhandenen ASCII-Text-Editor um die Datei ");
     });
-    bei(Befehl6, [this] { Rahmen1->show(); });
-    bei(Befehl7, [this] { Rahmen1->hide(); });
+    bei(Befehl6, [this] { Rahmen1->zeige(); });
     Liste1->beiAuswahl = [this] { zeigeFehler(); };
 }
 
-void frmlana::fuelleListen()
+/// The table takes its room from the list above it, so that the window stays as large as it is.
+void frmlana::zeigeFehlertabelle(bool zeigen)
 {
-    Liste1->setzeSichtbar(14, 92);
-    Liste2->setzeSichtbar(8, 40);
-    Liste3->setzeSichtbar(8, 62);
-    Liste2->modell().fuelle({kStrukturfehler.begin(), kStrukturfehler.end()});
-    Liste3->modell().fuelle(kFormat);
-    Liste2->hide();
-    Rahmen1->hide();
+    Liste1->setzeSichtbar(zeigen ? 12 : 21, 92);
+    Liste2->setVisible(zeigen);
+}
+
+void frmlana::leereErgebnis()
+{
+    ergebnis_ = {};
+    Liste1->modell().Clear();
+    zeigeFehlertabelle(false);
+    Bezeichnung4->setText(kKorrekte);
+    Bezeichnung5->setText(kFalsche);
+    Bezeichnung6->clear();
 }
 
 void frmlana::pruefe()
@@ -110,9 +121,8 @@ void frmlana::pruefe()
     Lauf lauf(*this);
     if (!lauf)
         return;
-    Liste1->modell().Clear();
-    Liste2->hide();
-    const Dateiinhalt inhalt = leseDateiinhalt(utf8(aktiveZiehungsdatei(umgebung())), kGroessteDatei);
+    leereErgebnis();
+    const Dateiinhalt inhalt = leseDateiinhalt(utf8(ziehungsdatei(umgebung(), spielart_)), kGroessteDatei);
     if (inhalt.stand == Dateistand::Fehlt) {
         umgebung().boxen.info(kProgrammtitel,
                               "ERROR 53: Die Ziehungsdatei xxLOTTO.DAT wurde nicht gefunden. Die Datei xxLOTTO.DAT muß "
@@ -130,8 +140,8 @@ void frmlana::zeigeErgebnis()
 {
     const std::size_t falsche = ergebnis_.fehlerzeilen.size();
     Bezeichnung6->setText(qt(ergebnis_.letzterSatz));
-    Bezeichnung4->setText("Korrekte Ziehungen: " + QString::number(ergebnis_.KorrekteZiehungen));
-    Bezeichnung5->setText("Falsche Ziehungen: " + QString::number(falsche) +
+    Bezeichnung4->setText(kKorrekte + QString(" ") + QString::number(ergebnis_.KorrekteZiehungen));
+    Bezeichnung5->setText(kFalsche + QString(" ") + QString::number(falsche) +
                           (falsche > 0 ? " >> Zur Fehlerbeschreibung -> klicke auf Fehlerlzeile <<" : ""));
     if (falsche > 0)
         Liste1->modell().fuelle(ergebnis_.fehlerzeilen);
@@ -143,7 +153,7 @@ void frmlana::zeigeFehler()
 {
     const std::ptrdiff_t zeile = Liste1->modell().ListIndex();
     const int nummer = fehlernummer(Liste1->modell().List(static_cast<std::size_t>(zeile)));
-    Liste2->show();
+    zeigeFehlertabelle(true);
     Liste2->modell().SetListIndex(nummer > 0 ? nummer : ListenModell::kKeiner);
     if (nummer > 0)
         Liste2->zeigeZeile(nummer);
@@ -151,5 +161,5 @@ void frmlana::zeigeFehler()
 
 void frmlana::oeffneEditor(const QString& meldung)
 {
-    oeffneImEditor(umgebung(), meldung + Ziehungsdatei + " zu aktualisieren.");
+    oeffneImEditor(umgebung(), ziehungsdatei(umgebung(), spielart_), meldung + Ziehungsdatei + " zu aktualisieren.");
 }

@@ -64,8 +64,42 @@ TEST_F(Strukturbildschirm, FehlerUndInfotafelHabenIhreZeilen)
     klicke("Befehl6");
     EXPECT_TRUE(sichtbar("Rahmen1"));
     EXPECT_EQ(zeilen("Liste3").size(), 13);
+    EXPECT_EQ(lies("Rahmen1"), "Info");
     klicke("Befehl7");
     EXPECT_FALSE(sichtbar("Rahmen1"));
+}
+
+TEST_F(Strukturbildschirm, KeinKnopfMachtDasFensterGroesser)
+{
+    schreibe("SALOTTO.DAT", {"1955,41,03,12,13,16,23,41,00,0", "kaputt"});
+    starte();
+    oeffne("frmlana");
+    const auto* liste2 = qobject_cast<QWidget*>(bedienung.finde("Liste2"));
+    QCoreApplication::processEvents();
+    const QSize vorher = liste2->window()->size();
+    klicke("Befehl2");
+    waehle("Liste1", {0});
+    klicke("Befehl6");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(liste2->window()->size(), vorher);
+    const auto* tafel = qobject_cast<QWidget*>(bedienung.finde("Rahmen1"));
+    EXPECT_TRUE(tafel->parentWidget()->rect().contains(tafel->geometry()));
+}
+
+TEST_F(Strukturbildschirm, NachEinemLaufOhneDateiStehtNichtsMehrVomVorigen)
+{
+    starte();
+    oeffne("frmlana");
+    klicke("Befehl2");
+    waehle("Liste1", {0});
+    QFile::remove(ordner.filePath("SALOTTO.DAT"));
+    klicke("Befehl2");
+    EXPECT_EQ(boxen().size(), 1);
+    EXPECT_EQ(lies("Bezeichnung4"), "Korrekte Ziehungen:");
+    EXPECT_EQ(lies("Bezeichnung5"), "Falsche Ziehungen:");
+    EXPECT_EQ(lies("Bezeichnung6"), "");
+    EXPECT_EQ(zeilen("Liste1"), QStringList());
+    EXPECT_FALSE(sichtbar("Liste2"));
 }
 
 TEST_F(Strukturbildschirm, EineFehlendeDateiMeldetSich)
@@ -77,6 +111,18 @@ TEST_F(Strukturbildschirm, EineFehlendeDateiMeldetSich)
     EXPECT_EQ(boxen(), QStringList{"info|Tombrix|ERROR 53: Die Ziehungsdatei xxLOTTO.DAT wurde nicht gefunden. Die "
                                    "Datei xxLOTTO.DAT muß sich im gleichen Verzeichnis wie das Programm TOMBRIX.EXE "
                                    "befinden."});
+}
+
+TEST_F(Strukturbildschirm, GeprueftWirdDieDateiDieDerTitelNennt)
+{
+    schreibe("MALOTTO.DAT", {"kaputt"});
+    starte();
+    oeffne("frmlana");
+    buehne.archiv.Spielart = Mittwochslotto;
+    klicke("Befehl2");
+    EXPECT_EQ(lies("Bezeichnung5"), "Falsche Ziehungen: 0");
+    klicke("Befehl3");
+    EXPECT_EQ(buehne.oeffner.entnehme(), QStringList{ordner.filePath("SALOTTO.DAT")});
 }
 
 TEST_F(Strukturbildschirm, DieEditorenBekommenDieAktiveDatei)
