@@ -140,12 +140,10 @@ void AuswertebereichView::fuelle()
 
 void AuswertebereichView::folgeArchiv()
 {
-    const bool nachZiehung = modell_.angabe().form == Bereichsform::BisZiehung;
-    modell_ = bereichDesArchivs(bildschirm_.umgebung().archiv);
-    if (nachZiehung)
-        modell_.zeigeBisZiehung();
     uebernimm();
+    modell_.folge(bereichDesArchivs(bildschirm_.umgebung().archiv));
     fuelleAuswahlen();
+    zeige();
 }
 
 void AuswertebereichView::fuelleAuswahlen()

@@ -150,12 +150,13 @@ TEST_F(ElementAuswertebereich, VonDarfGleichBisSein)
     EXPECT_THAT(boxen(), IsEmpty());
 }
 
-TEST_F(ElementAuswertebereich, VierZeichenDieKeineZahlSindWertenNichtsAus)
+TEST_F(ElementAuswertebereich, VierZeichenDieKeineZiffernSindWerdenAbgelehnt)
 {
     zeige();
     setze("Text1", "19x5");
     EXPECT_EQ(werteAus(), std::nullopt);
-    EXPECT_THAT(boxen(), IsEmpty());
+    EXPECT_THAT(boxen(), ElementsAre(vierstellig));
+    EXPECT_EQ(lies("Text1"), "19x5");
 }
 
 TEST_F(ElementAuswertebereich, ZUndJWechselnDieFormAnGleicherStelle)
@@ -296,6 +297,26 @@ TEST_F(ElementAuswertebereich, FolgtEinemAnderenArchivAuchInDerFormNachZiehung)
     ASSERT_TRUE(bereich.has_value());
     EXPECT_EQ(bereich->letzteZiehung, 757);
     EXPECT_EQ(lies("Text3"), "757");
+}
+
+TEST_F(ElementAuswertebereich, DieVerborgenenJahreSindDieDesNeuenArchivs)
+{
+    zeige("Option3");
+    klicke("Befehl9");
+    buehne.umgebung.menue->waehleSpielart(Mittwochslotto);
+    probe->bereich->folgeArchiv();
+    EXPECT_EQ(lies("Text3"), "757");
+    setze("Text3", "1000");
+    EXPECT_EQ(werteAus(), Ziehungsbereich({1986, 2026, 1000}));
+}
+
+TEST_F(ElementAuswertebereich, DieVerborgeneZiehungIstDieLetzteDesNeuenArchivs)
+{
+    zeige("Option3");
+    buehne.umgebung.menue->waehleSpielart(Mittwochslotto);
+    probe->bereich->folgeArchiv();
+    klicke("Befehl9");
+    EXPECT_EQ(lies("Text3"), QString::number(buehne.archiv.AnzahlZiehungen));
 }
 
 TEST_F(ElementAuswertebereich, EigeneNamenGeltenFuerJedesFeld)

@@ -10,12 +10,22 @@
 namespace {
 
 constexpr std::int32_t kLetztesJahr = 9999;
+constexpr std::size_t kJahresstellen = 4;
+
+bool nurZiffern(std::string_view text)
+{
+    return text.find_first_not_of("0123456789") == std::string_view::npos;
+}
 
 /// The ZiehungsNr in a text of digits, one too large for the type being its bound; 0 for any other text.
 std::int32_t ziehungsNr(std::string_view text)
 {
-    const bool nurZiffern = trim(text).find_first_not_of("0123456789") == std::string_view::npos;
-    return nurZiffern ? fuehrendeZahl(text) : 0;
+    return nurZiffern(trim(text)) ? fuehrendeZahl(text) : 0;
+}
+
+std::optional<std::int32_t> jahreszahl(std::string_view text)
+{
+    return text.size() == kJahresstellen && nurZiffern(text) ? ganzzahl(text) : std::nullopt;
 }
 
 Bereichspruefung meldung(std::string_view titel, std::string_view text)
@@ -61,14 +71,27 @@ void Auswertebereich::zeigeBisZiehung()
     angabe_.bis = letztesJahr_;
 }
 
+void Auswertebereich::folge(Auswertebereich neuer)
+{
+    const bool nachZiehung = angabe_.form == Bereichsform::BisZiehung;
+    const bool andereZiehung = angabe_.bisZiehung != std::to_string(anzahl_);
+    if (nachZiehung) {
+        neuer.zeigeBisZiehung();
+    } else {
+        neuer.setzeVon(std::move(angabe_.von));
+        neuer.setzeBis(std::move(angabe_.bis));
+    }
+    if (nachZiehung || andereZiehung)
+        neuer.setzeBisZiehung(std::move(angabe_.bisZiehung));
+    *this = std::move(neuer);
+}
+
 Bereichspruefung Auswertebereich::pruefe()
 {
-    if (anzahlZeichen(angabe_.von) != 4 || anzahlZeichen(angabe_.bis) != 4)
-        return meldung(kLottoNachricht, "Jahreszahlen 4-stellig eingeben !");
-    const auto von = ganzzahl(angabe_.von);
-    const auto bis = ganzzahl(angabe_.bis);
+    const auto von = jahreszahl(angabe_.von);
+    const auto bis = jahreszahl(angabe_.bis);
     if (!von || !bis)
-        return {};
+        return meldung(kLottoNachricht, "Jahreszahlen 4-stellig eingeben !");
     if (*bis < *von)
         return meldung("", "\"Bis\" muss grösser \"Von\" sein!");
     return {Ziehungsbereich{*von, *bis, letzteZiehung()}, std::nullopt};

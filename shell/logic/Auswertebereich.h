@@ -40,7 +40,7 @@ struct Bereichsangabe {
     bool operator==(const Bereichsangabe&) const = default;
 };
 
-/// What a start button does: evaluates a range or shows a message; with neither, nothing happens.
+/// What a start button does: evaluates a range, or shows a message.
 struct Bereichspruefung {
     std::optional<Ziehungsbereich> bereich;
     std::optional<Meldung> meldung;
@@ -70,8 +70,12 @@ public:
     /// "J": shows the form by years. The texts stay.
     void zeigeJahre() { angabe_.form = Bereichsform::Jahre; }
 
-    /// Looks at the fields, in this order: a Von or Bis that is not four characters long gives a message; one that is
-    /// no number gives nothing; a Bis below Von gives a message.
+    /// Goes over to another archive, `neuer` being its prefilled range. What the form in view shows stays. A field out
+    /// of sight is prefilled anew, so that it restricts nothing; only a ZiehungsNr that somebody chose stays there too.
+    void folge(Auswertebereich neuer);
+
+    /// Looks at the fields, in this order: a Von or Bis that is not four digits gives a message; a Bis below Von gives
+    /// another one.
     ///
     /// By draw, a number above the count of draws is set back to it, in the field too. A number below 1 or a text that
     /// is no number stays in the field and stands for no draw at all: the range is empty.

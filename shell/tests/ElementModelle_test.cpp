@@ -280,19 +280,41 @@ TEST(Auswertebereich, VierstelligKommtVorBisKleinerVon)
     EXPECT_EQ(mitJahren("2000", "1999").pruefe().meldung, kBisKleiner);
 }
 
-TEST(Auswertebereich, VierZeichenOhneZahlTunNichts)
+TEST(Auswertebereich, VierZeichenDieKeineZiffernSindWerdenAbgelehnt)
 {
-    for (const char* text : {"abcd", "äöüß", "19x5", "    ", "1e03", "19,5"}) {
+    for (const char* text : {"abcd", "äöüß", "äö", "19x5", "    ", "1e03", "19,5", "-199", "+199", " 199", "199 "}) {
         const Bereichspruefung von = mitJahren(text, "2026").pruefe();
-        EXPECT_FALSE(von.bereich || von.meldung) << text;
+        EXPECT_EQ(von.meldung, kVierstellig) << text;
+        EXPECT_FALSE(von.bereich) << text;
         const Bereichspruefung bis = mitJahren("1955", text).pruefe();
-        EXPECT_FALSE(bis.bereich || bis.meldung) << text;
+        EXPECT_EQ(bis.meldung, kVierstellig) << text;
+        EXPECT_FALSE(bis.bereich) << text;
     }
 }
 
-TEST(Auswertebereich, UmlauteZaehlenAlsEinZeichen)
+TEST(Auswertebereich, EinAnderesArchivLaesstStehenWasZuSehenIst)
 {
-    EXPECT_EQ(mitJahren("äö", "2026").pruefe().meldung, kVierstellig);
+    Auswertebereich nachJahren = mitJahren("1990", "1995");
+    nachJahren.folge({1986, 2000, 757});
+    EXPECT_EQ(nachJahren.angabe(), (Bereichsangabe{Bereichsform::Jahre, "1990", "1995", "757"}));
+    EXPECT_THAT(nachJahren.jahre(), testing::SizeIs(15));
+
+    Auswertebereich nachZiehung = bisZiehung("100");
+    nachZiehung.folge({1986, 2000, 757});
+    EXPECT_EQ(nachZiehung.angabe(), (Bereichsangabe{Bereichsform::BisZiehung, "1986", "2000", "100"}));
+}
+
+TEST(Auswertebereich, EinAnderesArchivLaesstEineEingegebeneZiehungStehen)
+{
+    Auswertebereich bereich = bisZiehung("100");
+    bereich.zeigeJahre();
+    bereich.folge({1986, 2000, 757});
+    EXPECT_EQ(bereich.angabe().bisZiehung, "100");
+
+    Auswertebereich alle = bisZiehung("3693"); // in view: the draws of the result that the screen shows
+    alle.folge({1986, 2000, 757});
+    EXPECT_EQ(alle.angabe().bisZiehung, "3693");
+    EXPECT_EQ(alle.pruefe().bereich, (Ziehungsbereich{1986, 2000, 757}));
 }
 
 TEST(Auswertebereich, BisZiehungLaeuftUeberAlleJahre)
