@@ -58,6 +58,23 @@ TEST_F(ElementBaustein, DerZahlenblockZeigtUnterJederZahlIhrenWert)
     EXPECT_EQ(block->wert(49), "1049");
 }
 
+TEST_F(ElementBaustein, DieSchriftDesZahlenblocksWaechstUndSchrumpftMitIhm)
+{
+    zeige([&](Rohbau& rohbau) { return spalte({new Zahlenblock("Zahl", "Wert", &rohbau)}); });
+    auto* bildschirm = buehne.bildschirme.geladen("frmProbe");
+    const auto schriftgroesse = [bildschirm](const char* name) {
+        return bildschirm->findChild<QLabel*>(name)->font().pointSizeF();
+    };
+    const double kleinste = schriftgroesse("Wert(7)");
+    const QSize kleinster = bildschirm->minimumSizeHint();
+    bildschirm->resize(2 * kleinster);
+    EXPECT_GE(schriftgroesse("Wert(7)"), 1.8 * kleinste);
+    EXPECT_EQ(schriftgroesse("Zahl(7)"), schriftgroesse("Wert(7)"));
+    EXPECT_EQ(bildschirm->minimumSizeHint(), kleinster);
+    bildschirm->resize(2 * kleinster.width(), kleinster.height());
+    EXPECT_EQ(schriftgroesse("Wert(7)"), kleinste);
+}
+
 TEST_F(ElementBaustein, DerZahlenblockFaerbtLesbarUndNimmtDieFarbenZurueck)
 {
     Zahlenblock* block = nullptr;
