@@ -69,5 +69,6 @@ JahrUndWoche werteJahrUndWocheAus(const ZiehungsArchiv& archiv, int zahl, ZZModu
             .Spielart = archiv.Spielart,
             .proJahr = countPerYear(archiv, zahl, modus),
             .proWoche = countPerWeek(archiv, zahl, modus),
+            .treffer = trefferProJahr(archiv, zahl, modus),
             .letzteZiehung = jahrUndWoche(archiv, static_cast<std::size_t>(archiv.AnzahlZiehungen))};
 }

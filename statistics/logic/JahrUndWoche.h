@@ -50,6 +50,7 @@ struct JahrUndWoche {
     std::int16_t Spielart = SpielartStart;
     HaeufigkeitProJahr proJahr;
     HaeufigkeitProWoche proWoche{};
+    std::vector<Jahrestreffer> treffer;    ///< the rows of `proJahr`, each with its hits
     std::string letzteZiehung = "0000/00"; ///< "jjjj/sw"
 };
 

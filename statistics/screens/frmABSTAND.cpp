@@ -167,6 +167,8 @@ void frmABSTAND::fuelleListe()
             ListView1->setItemText(zeile, spalte, zellen[static_cast<std::size_t>(spalte)]);
     }
     ListView1->setRedraw(true);
+    if (ergebnis_.laengster != AbstandAuswertung::kKeine)
+        ListView1->MakeSureVisible(ergebnis_.laengster);
 }
 
 void frmABSTAND::zeigeStand()

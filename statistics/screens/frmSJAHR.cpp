@@ -151,7 +151,7 @@ void frmSJAHR::zeigeDetails()
     Lauf lauf(*this);
     if (!lauf)
         return;
-    Liste1->modell().fuelle(detailzeilen(trefferProJahr(umgebung().archiv, ergebnis_.zahl, ergebnis_.ZaehlModus)));
+    Liste1->modell().fuelle(detailzeilen(ergebnis_.treffer));
     Liste1->zeigeZeile(0);
     setzeTitel(kDetailtitel);
 }

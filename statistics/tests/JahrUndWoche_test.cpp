@@ -138,6 +138,7 @@ TEST(JahrUndWocheZeilen, DetailsMitSummeJeJahr)
 TEST(JahrUndWocheZeilen, BerichtProJahr)
 {
     const JahrUndWoche auswertung = werteJahrUndWocheAus(dreiJahre(), 7, ZZModus::Mit);
+    EXPECT_EQ(auswertung.treffer, trefferProJahr(dreiJahre(), 7, ZZModus::Mit));
     EXPECT_EQ(berichtProJahr(auswertung, jahreszeilen(auswertung.proJahr).zeilen),
               "\r\n"
               "*** Wie oft wurde die Zahl 7 pro Jahr gezogen ? *** IM SAMSTAGSLOTTO\r\n"
@@ -162,6 +163,7 @@ TEST(JahrUndWocheZeilen, BerichtProWocheInJedemSpielUndModus)
                                 .Spielart = spielart,
                                 .proJahr = {{}, 12},
                                 .proWoche = {},
+                                .treffer = {},
                                 .letzteZiehung = "2000/48"},
                                zeilen);
     };

@@ -267,6 +267,34 @@ TEST_F(Abstandsbildschirm, BeideErgebnisseUnterscheidenSichAmAnfangUmEins)
         "Die Gewinnzahl 49 wurde mit Zieh.Nr.    3 1955/43, nach    3 Wochen wieder gezogen"));
 }
 
+TEST_F(Abstandsbildschirm, ZeigtDenLaengstenAusbleibezeitraum)
+{
+    starte();
+    oeffne("frmABSTAND");
+    const auto* liste = schirm().findChild<ListView*>("ListView1");
+    bool gerollt = false;
+    for (const int zahl : {1, 7, 13, 25, 49}) {
+        klicke(zahlfeld(zahl));
+        const QRect laengster = liste->zeilenrechteck(schirm().ergebnis().laengster);
+        EXPECT_TRUE(liste->viewport()->rect().contains(laengster)) << zahl;
+        gerollt = gerollt || liste->obersteZeile() > 0;
+    }
+    EXPECT_TRUE(gerollt);
+}
+
+TEST_F(Abstandsbildschirm, DerBerichtIstDerDesErgebnissesAuchNachEinemAnderenArchiv)
+{
+    starte();
+    oeffne("frmABSTAND");
+    klicke(zahlfeld(13));
+    klicke("cmdClip");
+    const QString vorher = buehne.zwischenablage.text();
+    buehne.umgebung.menue->waehleSpielart(MittwochslottoB);
+    klicke("cmdMax");
+    klicke("cmdClip");
+    EXPECT_EQ(buehne.zwischenablage.text(), vorher);
+}
+
 TEST_F(Abstandsbildschirm, BerichtetInDieZwischenablage)
 {
     schreibe("MALOTTO.DAT", {"1986,23,11,26,27,30,35,38,49,0", "1986,24,08,16,23,32,34,42,26,0"});

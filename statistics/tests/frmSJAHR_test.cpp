@@ -117,6 +117,25 @@ TEST_F(JahrUndWocheBildschirm, ZeigtJedesJahrImEinzelnen)
     EXPECT_EQ(zeilen("Liste1").size(), 2);
 }
 
+TEST_F(JahrUndWocheBildschirm, AllesFolgtDemErgebnisAuchNachEinemAnderenArchiv)
+{
+    const auto zeigeAlles = [this] {
+        klicke("Befehl4");
+        QStringList alles = zeilen("Liste1");
+        for (const char* knopf : {"Befehl5", "Befehl6"}) {
+            klicke(knopf);
+            alles << buehne.zwischenablage.text();
+        }
+        return alles;
+    };
+    starte();
+    oeffne("frmSJAHR");
+    klicke("Bezeichnung6(13)");
+    const QStringList vorher = zeigeAlles();
+    buehne.umgebung.menue->waehleSpielart(MittwochslottoB);
+    EXPECT_EQ(zeigeAlles(), vorher);
+}
+
 TEST_F(JahrUndWocheBildschirm, BerichteStehenInDerZwischenablage)
 {
     schreibeZweiJahre();
