@@ -28,7 +28,7 @@ protected:
 private:
     QLabel* feld(int zahl) const { return werte_[static_cast<std::size_t>(zahl - 1)]; }
 
-std::array<QLabel*, kHoechsteZahl> zahlen_;
+    std::array<QLabel*, kHoechsteZahl> zahlen_;
     std::array<QLabel*, kHoechsteZahl> werte_;
     double schriftgroesse_ = 0; ///< of the cells, in points
 };

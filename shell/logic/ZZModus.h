@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,6 +19,12 @@ constexpr bool zaehltGewinnzahlen(ZZModus modus)
 constexpr bool zaehltZusatzzahl(ZZModus modus)
 {
     return modus != ZZModus::Ohne;
+}
+
+/// Where a mode stands in the order ohne, mit, nur: 0..2.
+constexpr std::size_t zzStelle(ZZModus modus)
+{
+    return static_cast<std::size_t>(modus) - 1;
 }
 
 /// "ohne", "mit" or "nur".

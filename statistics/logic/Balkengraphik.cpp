@@ -56,20 +56,10 @@ Balkengraphik balkenZoom(const Haeufigkeit& haeufigkeit)
     return zeichne(haeufigkeit, {extreme.min, std::max(extreme.max - extreme.min, 1)}, extreme.max);
 }
 
-bool erreichtLetzteZiehung(const HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv)
-{
-    if (archiv.AnzahlZiehungen < 1)
-        return false;
-    if (auswertung.angabe.form == Bereichsform::BisZiehung)
-        return auswertung.bereich.letzteZiehung == archiv.AnzahlZiehungen;
-    return auswertung.bereich.bis == archiv.jjjj[static_cast<std::size_t>(archiv.AnzahlZiehungen)];
-}
-
-std::string balkenText(const HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv, const ZuletztVor& zuletzt,
-                       int zahl)
+std::string balkenText(const HaeufigkeitAuswertung& auswertung, int zahl)
 {
     const ZZModus modus = auswertung.ZaehlModus;
-    const std::int32_t wochen = zuletzt[static_cast<std::size_t>(zahl - 1)];
+    const std::int32_t wochen = auswertung.zuletztVor[static_cast<std::size_t>(zahl - 1)];
     return "Zahl " + std::to_string(zahl) + " -> " + std::to_string(auswertung.haeufigkeit.fuer(zahl)) +
-           " mal gezogen" + (erreichtLetzteZiehung(auswertung, archiv) ? mitWochen(wochen, modus) : ohneWochen(modus));
+           " mal gezogen" + (auswertung.erreichtLetzteZiehung ? mitWochen(wochen, modus) : ohneWochen(modus));
 }

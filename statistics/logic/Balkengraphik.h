@@ -2,7 +2,6 @@
 
 #include "shell/logic/Lottozahl.h"
 #include "statistics/logic/HaeufigkeitAuswertung.h"
-#include "statistics/logic/ZuletztVor.h"
 
 #include <array>
 #include <cstdint>
@@ -36,11 +35,6 @@ Balkengraphik balkenNormal(const Haeufigkeit& haeufigkeit);
 /// Scale from the lowest to the highest count.
 Balkengraphik balkenZoom(const Haeufigkeit& haeufigkeit);
 
-/// True if the last draw of the archive is in the evaluation: by years if Bis is its Spieljahr, by draw if the range
-/// ends with its ZiehungsNr.
-bool erreichtLetzteZiehung(const HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv);
-
 /// The text line for the bar of a number 1..49: its count and, if the evaluation reached the last draw, how many
 /// weeks ago it came.
-std::string balkenText(const HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv, const ZuletztVor& zuletzt,
-                       int zahl);
+std::string balkenText(const HaeufigkeitAuswertung& auswertung, int zahl);

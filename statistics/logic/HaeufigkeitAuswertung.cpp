@@ -59,18 +59,41 @@ std::string extremText(std::string_view anfang, int zahl, std::int16_t anzahl)
     return std::string(anfang) + ": Zahl -> " + std::to_string(zahl) + " (" + std::to_string(anzahl) + " mal gezogen)";
 }
 
+bool erreichtLetzteZiehung(const HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv)
+{
+    if (archiv.AnzahlZiehungen < 1)
+        return false;
+    if (auswertung.angabe.form == Bereichsform::BisZiehung)
+        return auswertung.bereich.letzteZiehung == archiv.AnzahlZiehungen;
+    return auswertung.bereich.bis == archiv.jjjj[static_cast<std::size_t>(archiv.AnzahlZiehungen)];
+}
+
+void merkeLetzteZiehung(HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv)
+{
+    auswertung.erreichtLetzteZiehung = erreichtLetzteZiehung(auswertung, archiv);
+    auswertung.zuletztVor = zuletztVor(archiv, auswertung.ZaehlModus);
+}
+
 } // namespace
 
 HaeufigkeitAuswertung werteAus(const ZiehungsArchiv& archiv, const Ziehungsbereich& bereich,
                                const Bereichsangabe& angabe, ZZModus modus)
 {
-    return {zaehleHaeufigkeit(archiv, bereich, modus), archiv.Spielart, false, modus, bereich, angabe};
+    HaeufigkeitAuswertung auswertung{.haeufigkeit = zaehleHaeufigkeit(archiv, bereich, modus),
+                                     .spielart = archiv.Spielart,
+                                     .ZaehlModus = modus,
+                                     .bereich = bereich,
+                                     .angabe = angabe};
+    merkeLetzteZiehung(auswertung, archiv);
+    return auswertung;
 }
 
 void ergaenzeMittwoch(HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv)
 {
     auswertung.mittwochAB = true;
     zaehleDazu(auswertung.haeufigkeit, archiv, auswertung.bereich, ZZModus::Ohne);
+    if (archiv.Spielart == Mittwochslotto)
+        merkeLetzteZiehung(auswertung, archiv);
 }
 
 std::string spielLabel(const HaeufigkeitAuswertung& auswertung)

@@ -2,6 +2,7 @@
 
 #include "shell/logic/Druckzeilen.h"
 #include "statistics/logic/Haeufigkeit.h"
+#include "statistics/logic/ZuletztVor.h"
 
 #include <cstdint>
 #include <string>
@@ -13,7 +14,9 @@ struct HaeufigkeitAuswertung {
     bool mittwochAB = false;               ///< both Wednesday games together
     ZZModus ZaehlModus = ZZModus::Ohne;
     Ziehungsbereich bereich;
-    Bereichsangabe angabe; ///< the fields after the check
+    Bereichsangabe angabe;              ///< the fields after the check
+    bool erreichtLetzteZiehung = false; ///< the range ends with the last Spieljahr, or with the last draw
+    ZuletztVor zuletztVor{};            ///< counted from the last draw of the archive, whatever the range
 };
 
 /// Counts the active archive. `bereich` and `angabe` are those of one checked Auswertebereich.
@@ -21,7 +24,7 @@ HaeufigkeitAuswertung werteAus(const ZiehungsArchiv& archiv, const Ziehungsberei
                                const Bereichsangabe& angabe, ZZModus modus);
 
 /// Adds the other Wednesday game, over the same range and without Zusatzzahl, to an evaluation of the one that was
-/// made without Zusatzzahl.
+/// made without Zusatzzahl. What is told of the last draw is told of game A, which is still drawn.
 void ergaenzeMittwoch(HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv);
 
 /// The game in upper case; "MITTWOCHSLOTTO (A+B)" for both Wednesday games.

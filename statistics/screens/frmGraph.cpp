@@ -19,6 +19,7 @@ frmGraph::frmGraph(Umgebung& umgebung)
       statistik_(umgebung.bildschirme->lade<frmSTAT1>("frmSTAT1")),
       Bild1(new Balkenfeld(this))
 {
+    lblErgebnis = bezeichnung("lblErgebnis");
     Bezeichnung3 = bezeichnung("Bezeichnung3");
     Bezeichnung4 = bezeichnung("Bezeichnung4");
     Bezeichnung19 = bezeichnung("Bezeichnung19");
@@ -29,10 +30,13 @@ frmGraph::frmGraph(Umgebung& umgebung)
     Befehl5 = befehl("Befehl5", "&mit Zusatzzahl");
     Befehl6 = befehl("Befehl6", "&ohne Zusatzzahl");
     Befehl7 = befehl("Befehl7", "&nur Zusatzzahl");
+    alsUeberschrift(lblErgebnis);
     alsUeberschrift(Bezeichnung19);
+    hauptaktionen({Befehl6, Befehl5, Befehl7});
 
     // clang-format off
     setzeInhalt(spalte({
+        lblErgebnis,
         zeile({Bezeichnung3, luecke(), Bezeichnung4}),
         dehnbar(Bild1),
         Bezeichnung19,
@@ -44,23 +48,25 @@ frmGraph::frmGraph(Umgebung& umgebung)
     bei(Befehl2, [this] { zeige(balkenZoom(statistik_.ergebnis().haeufigkeit), true); });
     bei(Befehl3, [this] { zeige(balkenNormal(statistik_.ergebnis().haeufigkeit), false); });
     bei(Befehl4, [this] { this->umgebung().boxen.info(kInfotitel, kInfo); });
-    bei(Befehl5, [this] { werteAus(ZZModus::Mit); });
-    bei(Befehl6, [this] { werteAus(ZZModus::Ohne); });
-    bei(Befehl7, [this] { werteAus(ZZModus::Nur); });
+    bei(Befehl5, [this] { statistik_.werteAus(ZZModus::Mit); });
+    bei(Befehl6, [this] { statistik_.werteAus(ZZModus::Ohne); });
+    bei(Befehl7, [this] { statistik_.werteAus(ZZModus::Nur); });
 }
 
-void frmGraph::werteAus(ZZModus modus)
+void frmGraph::beimZeigen()
 {
-    statistik_.werteAus(modus);
-    erneuere();
+    folge();
+    statistik_.zeigeTitel(true);
 }
 
-void frmGraph::erneuere()
+void frmGraph::folge()
 {
     const HaeufigkeitAuswertung& ergebnis = statistik_.ergebnis();
-    ZuletztVor_ = zuletztVor(umgebung().archiv, ergebnis.ZaehlModus);
-    for (QPushButton* modus : {Befehl5, Befehl6, Befehl7})
-        modus->setVisible(!ergebnis.mittwochAB);
+    lblErgebnis->setText(qt(ergebniszeile(ergebnis)));
+    const std::array modusknoepfe{Befehl6, Befehl5, Befehl7};
+    for (QPushButton* knopf : modusknoepfe)
+        knopf->setVisible(!ergebnis.mittwochAB);
+    zeigeGelaufen(modusknoepfe[zzStelle(ergebnis.ZaehlModus)]);
     const Extremwerte extreme = extremwerte(ergebnis.haeufigkeit);
     Bezeichnung3->setText(qt(maximumText(extreme)));
     Bezeichnung4->setText(qt(minimumText(extreme)));
@@ -78,11 +84,11 @@ void frmGraph::zeige(const Balkengraphik& graphik, bool gezoomt)
 void frmGraph::mausUeber(QWidget* feld)
 {
     if (const int zahl = Bild1->zahlVon(feld))
-        Bezeichnung19->setText(qt(balkenText(statistik_.ergebnis(), umgebung().archiv, ZuletztVor_, zahl)));
+        Bezeichnung19->setText(qt(balkenText(statistik_.ergebnis(), zahl)));
     Bildschirm::mausUeber(feld);
 }
 
 void frmGraph::beimSchliessen()
 {
-    statistik_.setzeTitel(qt(ergebniszeile(statistik_.ergebnis())));
+    statistik_.zeigeTitel(false);
 }

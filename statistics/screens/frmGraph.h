@@ -13,21 +13,21 @@ public:
 
     explicit frmGraph(Umgebung& umgebung);
 
+    /// Shows the last evaluation of frmSTAT1.
+    void folge();
+
     bool kehrtZumMenueZurueck() const override { return false; }
-    void beimZeigen() override { erneuere(); }
+    void beimZeigen() override;
     void mausUeber(QWidget* feld) override;
 
 protected:
     void beimSchliessen() override;
 
 private:
-    void erneuere();
-    void werteAus(ZZModus modus);
     void zeige(const Balkengraphik& graphik, bool gezoomt);
 
     frmSTAT1& statistik_;
-    ZuletztVor ZuletztVor_{};
     Balkenfeld* Bild1;
-    QLabel *Bezeichnung3, *Bezeichnung4, *Bezeichnung19;
+    QLabel *lblErgebnis, *Bezeichnung3, *Bezeichnung4, *Bezeichnung19;
     QPushButton *Befehl1, *Befehl2, *Befehl3, *Befehl4, *Befehl5, *Befehl6, *Befehl7;
 };

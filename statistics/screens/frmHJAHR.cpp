@@ -47,6 +47,7 @@ frmHJAHR::frmHJAHR(Umgebung& umgebung)
     Befehl4 = befehl("Befehl4", qt(zzKurzbefehl(ZZModus::Nur)));
     cmdInfo = befehl("cmdInfo", "?");
     alsUeberschrift(Bezeichnung1);
+    hauptaktionen({Befehl2, Befehl3, Befehl4});
 
     // clang-format off
     setzeInhalt(spalte({
@@ -98,6 +99,8 @@ void frmHJAHR::erzeuge(ZZModus modus)
 void frmHJAHR::zeigeSeite()
 {
     const QString seite = qt((ordner() / datei()).string());
+    const std::array modusknoepfe{Befehl2, Befehl3, Befehl4};
+    zeigeGelaufen(modusknoepfe[zzStelle(ergebnis_.ZaehlModus)]);
     setzeTitel("Gespeichert: " + seite);
     umgebung().oeffner.oeffne(seite);
 }

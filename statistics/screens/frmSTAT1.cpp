@@ -18,6 +18,8 @@
 
 namespace {
 
+constexpr auto kErgebnistitel = "Häufigkeitsverteilung der einzelnen Zahlen";
+
 constexpr auto kInfo = "Es wird ermittelt, wie oft jede der 49 Gewinnzahlen im gewählten Bereich gezogen wurde. Die "
                        "größte Häufigkeit wird "
                        "rot, die kleinste cyan markiert.\n\n"
@@ -27,6 +29,12 @@ constexpr auto kInfoMittwoch =
     "Bei ausgewählter Spielart Mittwochslotto wird die zusätzliche Befehlsschaltfläche Mittwochslotto (A+B) sichtbar. "
     "Mit dieser Befehlsschaltfläche werden zusätzlich die Ziehungen der Ziehung B ausgewertet. Die Ziehung B wurde im "
     "Mittwochslotto bis 29.11.2000 ausgespielt. Ausgewertet wird dabei ohne Zusatzzahl.";
+
+/// Keeps room for a text, so that nothing moves when it comes.
+void haltePlatz(QLabel* feld, const QString& text)
+{
+    feld->setMinimumWidth(feld->fontMetrics().horizontalAdvance(text));
+}
 
 } // namespace
 
@@ -55,6 +63,10 @@ frmSTAT1::frmSTAT1(Umgebung& umgebung)
     behaltePlatz(Befehl5);
     Befehl5->hide();
     alsUeberschrift(Bezeichnung7);
+    haltePlatz(Bezeichnung58, "00000");
+    for (QLabel* extrem : {Bezeichnung3, Bezeichnung4})
+        haltePlatz(extrem, qt(maximumText({.max = 9999, .maxima = {}, .minima = {}})));
+    hauptaktionen({Befehl2, Befehl3, Befehl4, Befehl8});
 
     // clang-format off
     setzeInhalt(spalte({
@@ -69,7 +81,7 @@ frmSTAT1::frmSTAT1(Umgebung& umgebung)
             Bezeichnung57, Bezeichnung58, luecke(),
             Bezeichnung3, luecke(), Bezeichnung4,
         }),
-        zeile({Befehl5, Befehl6, Befehl11, Befehl7, luecke(), Befehl1}),
+        zeile({Befehl6, Befehl11, Befehl7, Befehl5, luecke(), Befehl1}),
     }));
     // clang-format on
 
@@ -145,21 +157,30 @@ void frmSTAT1::zeigeErgebnis()
     Bezeichnung58->setNum(ergebnis_.haeufigkeit.AusgewerteteZiehungen);
     Befehl5->setVisible(ergebnis_.angabe.form == Bereichsform::Jahre);
     Befehl6->setEnabled(true);
-    setzeGrundtitel("Häufigkeitsverteilung der einzelnen Zahlen");
-    setzeTitel(qt(ergebniszeile(ergebnis_)));
+    const std::array modusknoepfe{Befehl2, Befehl3, Befehl4};
+    zeigeGelaufen(ergebnis_.mittwochAB ? Befehl8 : modusknoepfe[zzStelle(ergebnis_.ZaehlModus)]);
+    auto* graph = dynamic_cast<frmGraph*>(umgebung().bildschirme->geladen("frmGraph"));
+    if (graph)
+        graph->folge();
+    zeigeTitel(graph != nullptr);
+}
+
+void frmSTAT1::zeigeTitel(bool graphikOffen)
+{
+    setzeGrundtitel(graphikOffen ? frmGraph::kTitel : kErgebnistitel);
+    setzeTitel(graphikOffen ? QString(frmGraph::kTitel) : qt(ergebniszeile(ergebnis_)));
 }
 
 void frmSTAT1::zeigeGraphik()
 {
     umgebung().klang.SpieleKlang(1);
     Befehl5->hide();
-    setzeTitel(frmGraph::kTitel);
     umgebung().bildschirme->oeffne("frmGraph");
 }
 
 void frmSTAT1::drucke()
 {
-    if (!druckeZeilen(umgebung().drucker, grundtitel(), druckauftrag(ergebnis_)))
+    if (!druckeZeilen(umgebung().drucker, kErgebnistitel, druckauftrag(ergebnis_)))
         setzeTitel("Es ist kein Standarddrucker eingerichtet.");
 }
 

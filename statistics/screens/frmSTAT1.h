@@ -16,6 +16,8 @@ public:
     const HaeufigkeitAuswertung& ergebnis() const { return ergebnis_; }
     /// Evaluates the range that the fields show.
     void werteAus(ZZModus modus);
+    /// The title tells of the graph while that is open, else of the last evaluation.
+    void zeigeTitel(bool graphikOffen);
 
     void beimZeigen() override;
     bool kehrtZumMenueZurueck() const override;

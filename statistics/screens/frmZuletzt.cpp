@@ -82,6 +82,7 @@ frmZuletzt::frmZuletzt(Umgebung& umgebung)
     }
     Befehl3->setEnabled(false);
     Befehl4->setEnabled(false);
+    hauptaktionen({Befehl5, Befehl6, Befehl7, Befehl1});
 
     // clang-format off
     setzeInhalt(spalte({
@@ -120,6 +121,7 @@ frmZuletzt::frmZuletzt(Umgebung& umgebung)
     bei(Befehl7, [this] { werteAus(ZZModus::Nur); });
     bei(Befehl8, [this] { this->umgebung().boxen.info(kInfotitel, kInfo); });
     bei(cmbZ, [this] { uebernimmZiehung(); });
+    connect(Text1, &QLineEdit::textChanged, this, [this] { Befehl4->setEnabled(false); });
 }
 
 void frmZuletzt::beimZeigen()
@@ -184,6 +186,8 @@ void frmZuletzt::werteMittwochAus()
 void frmZuletzt::zeigeErgebnis()
 {
     Bezeichnung5->setText(qt(spielLabel(ergebnis_)));
+    const std::array modusknoepfe{Befehl5, Befehl6, Befehl7};
+    zeigeGelaufen(ergebnis_.mittwochAB ? Befehl1 : modusknoepfe[zzStelle(ergebnis_.ZaehlModus)]);
     if (ergebnis_.Grenze >= 1)
         cmbZ->setCurrentIndex(ergebnis_.Grenze - 1);
     Bezeichnung1->loescheFarben();

@@ -95,9 +95,9 @@ std::string textFuerEins(Auswertebereich bereich, ZZModus modus)
     const Bereichspruefung pruefung = bereich.pruefe();
     if (!pruefung.bereich)
         return "kein Bereich";
-    ZuletztVor zuletzt{};
-    zuletzt[0] = 12;
-    return balkenText(werteAus(archiv, *pruefung.bereich, bereich.angabe(), modus), archiv, zuletzt, 1);
+    HaeufigkeitAuswertung auswertung = werteAus(archiv, *pruefung.bereich, bereich.angabe(), modus);
+    auswertung.zuletztVor[0] = 12;
+    return balkenText(auswertung, 1);
 }
 
 std::string nachJahren(std::string bis, ZZModus modus)
@@ -129,6 +129,12 @@ TEST(BalkenText, VorDemLetztenSpieljahrOhneWochen)
     EXPECT_EQ(nachJahren("1956", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen,  (nur ZZ)");
 }
 
+TEST(BalkenText, NachDemLetztenSpieljahrOhneWochen)
+{
+    EXPECT_EQ(nachJahren("1958", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, (ohne ZZ)");
+    EXPECT_EQ(nachJahren("9999", ZZModus::Mit), "Zahl 1 -> 3 mal gezogen,  (mit ZZ)");
+}
+
 TEST(BalkenText, BisZurLetztenZiehungMitWochen)
 {
     EXPECT_EQ(bisZiehung("3", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (ohne ZZ)");
@@ -139,11 +145,6 @@ TEST(BalkenText, VorDerLetztenZiehungOhneWochen)
 {
     EXPECT_EQ(bisZiehung("2", ZZModus::Ohne), "Zahl 1 -> 2 mal gezogen, (ohne ZZ)");
     EXPECT_EQ(bisZiehung("2", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen,  (nur ZZ)");
-}
-
-TEST(BalkenText, LeeresArchivErreichtNichts)
-{
-    EXPECT_FALSE(erreichtLetzteZiehung({}, ZiehungsArchiv{}));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -48,6 +49,45 @@ TEST(HaeufigkeitAuswertung, WerteAusHaeltAllesFest)
     EXPECT_EQ(ergebnis.ZaehlModus, ZZModus::Nur);
     EXPECT_EQ(ergebnis.bereich, bereich);
     EXPECT_EQ(ergebnis.angabe, kBisZiehung);
+}
+
+TEST(HaeufigkeitAuswertung, HaeltFestWieLangeJedeZahlAusblieb)
+{
+    std::vector<TestZiehung> ziehungen(300, {1986, 23, {1, 2, 3, 4, 5, 6}, 0});
+    ziehungen[289].zz = 49;
+    const ZiehungsArchiv archiv = archivAus(Mittwochslotto, ziehungen);
+    EXPECT_EQ(werteAus(archiv, {1986, 1986}, kNachJahren, ZZModus::Mit).zuletztVor, zuletztVor(archiv, ZZModus::Mit));
+    EXPECT_EQ(werteAus(archiv, {1986, 1986}, kNachJahren, ZZModus::Mit).zuletztVor[48], 10);
+    EXPECT_EQ(werteAus(archiv, {1986, 1986}, kNachJahren, ZZModus::Ohne).zuletztVor[48], 300);
+}
+
+TEST(HaeufigkeitAuswertung, HaeltFestObDerBereichDieLetzteZiehungErreicht)
+{
+    const ZiehungsArchiv archiv =
+        archivAus(Mittwochslotto, {{1986, 23, {1, 2, 3, 4, 5, 6}, 0}, {1987, 1, {1, 2, 3, 4, 5, 6}, 0}});
+    EXPECT_TRUE(werteAus(archiv, {1986, 1987}, kNachJahren, ZZModus::Ohne).erreichtLetzteZiehung);
+    EXPECT_FALSE(werteAus(archiv, {1986, 1986}, kNachJahren, ZZModus::Ohne).erreichtLetzteZiehung);
+    EXPECT_TRUE(werteAus(archiv, {1986, 1987, 2}, kBisZiehung, ZZModus::Ohne).erreichtLetzteZiehung);
+    EXPECT_FALSE(werteAus(archiv, {1986, 1987, 1}, kBisZiehung, ZZModus::Ohne).erreichtLetzteZiehung);
+    EXPECT_FALSE(werteAus(ZiehungsArchiv(), {0, 0, 0}, kBisZiehung, ZZModus::Ohne).erreichtLetzteZiehung);
+    EXPECT_FALSE(werteAus(ZiehungsArchiv(), {0, 0}, kNachJahren, ZZModus::Ohne).erreichtLetzteZiehung);
+}
+
+TEST(HaeufigkeitAuswertung, VonBeidenMittwochsspielenZaehltDieLetzteZiehungVonA)
+{
+    const ZiehungsArchiv a =
+        archivAus(Mittwochslotto, {{1986, 23, {1, 2, 3, 4, 5, 6}, 0}, {2026, 30, {1, 2, 3, 4, 5, 6}, 0}});
+    const ZiehungsArchiv b = archivAus(MittwochslottoB, {{1986, 23, {1, 2, 3, 4, 5, 6}, 0}});
+    for (const std::int32_t bis : {1986, 2026}) {
+        HaeufigkeitAuswertung vonA = werteAus(a, {1986, bis}, kNachJahren, ZZModus::Ohne);
+        ergaenzeMittwoch(vonA, b);
+        HaeufigkeitAuswertung vonB = werteAus(b, {1986, bis}, kNachJahren, ZZModus::Ohne);
+        ergaenzeMittwoch(vonB, a);
+        EXPECT_EQ(vonA.erreichtLetzteZiehung, bis == 2026);
+        EXPECT_EQ(vonB.erreichtLetzteZiehung, bis == 2026);
+        EXPECT_EQ(vonA.zuletztVor, zuletztVor(a, ZZModus::Ohne));
+        EXPECT_EQ(vonB.zuletztVor, zuletztVor(a, ZZModus::Ohne));
+    }
 }
 
 TEST(HaeufigkeitAuswertung, DerAndereMittwochKommtOhneZusatzzahlHinzu)

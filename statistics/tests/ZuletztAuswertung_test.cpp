@@ -165,6 +165,25 @@ TEST(ZuletztMittwochAB, VonBeidenGiltDieSpaetereMitIhrerEigenenWoche)
     EXPECT_EQ(auswertung.fuer(1).ZiehungsNr, 300);
 }
 
+TEST(ZuletztMittwochAB, InDerselbenZiehungGiltDieZuerstDurchsuchteDatei)
+{
+    auto a = gleiche(300);
+    auto b = gleiche(280);
+    ziehung(a, 260).zahlen[5] = 40;
+    ziehung(b, 260).zahlen[5] = 40;
+    ziehung(b, 260).sw = 53;
+    ZuletztAuswertung vonA = werteZuletztAus(mittwoch(Mittwochslotto, a), 280, ZZModus::Ohne);
+    ergaenzeMittwoch(vonA, mittwoch(MittwochslottoB, b));
+    EXPECT_EQ(vonA.fuer(40).ZiehungsNr, 260);
+    EXPECT_EQ(vonA.fuer(40).Spielart, Mittwochslotto);
+    EXPECT_EQ(vonA.fuer(40).jahrUndWoche.substr(5), "52");
+    ZuletztAuswertung vonB = werteZuletztAus(mittwoch(MittwochslottoB, b), 280, ZZModus::Ohne);
+    ergaenzeMittwoch(vonB, mittwoch(Mittwochslotto, a));
+    EXPECT_EQ(vonB.fuer(40).ZiehungsNr, 260);
+    EXPECT_EQ(vonB.fuer(40).Spielart, MittwochslottoB);
+    EXPECT_EQ(vonB.fuer(40).jahrUndWoche.substr(5), "53");
+}
+
 TEST(ZuletztMittwochAB, DieGrenzenDerErstenDateiGeltenAuchInDerZweiten)
 {
     auto a = gleiche(300);

@@ -122,6 +122,35 @@ TEST_F(Jahrestabellenbildschirm, EineDateiAnStelleDesOrdnersIstEinFehler)
     EXPECT_EQ(titel(), "Häufigkeit der Gewinnzahlen pro Spieljahr (als HTML-Datei)");
 }
 
+TEST_F(Jahrestabellenbildschirm, DerKnopfDerGeschriebenenSeiteSiehtSoAus)
+{
+    const QStringList knoepfe{"Befehl2", "Befehl3", "Befehl4"};
+    starte();
+    oeffne("frmHJAHR");
+    EXPECT_EQ(gelaufene(knoepfe), QStringList());
+    for (const QString& knopf : knoepfe) {
+        klicke(knopf);
+        EXPECT_EQ(gelaufene(knoepfe), QStringList{knopf});
+    }
+    {
+        const VolleScheibe voll(10'000);
+        klicke("Befehl2");
+    }
+    EXPECT_EQ(gelaufene(knoepfe), QStringList{"Befehl4"});
+}
+
+TEST_F(Jahrestabellenbildschirm, EnterUndF5SchreibenDieSeiteVonZuletzt)
+{
+    starte();
+    oeffne("frmHJAHR");
+    tippe("optDatumOderWoche(0)", "Return");
+    EXPECT_EQ(buehne.oeffner.entnehme(), QStringList{seitenpfad("pro_jahr_samstag_ohne_ZZ.htm")});
+    klicke("Befehl4");
+    buehne.oeffner.entnehme();
+    tippe("frmHJAHR", "F5");
+    EXPECT_EQ(buehne.oeffner.entnehme(), QStringList{seitenpfad("pro_jahr_samstag_nur_ZZ.htm")});
+}
+
 TEST_F(Jahrestabellenbildschirm, AufVollerScheibeBleibtDieAlteSeite)
 {
     legeAlteSeite("pro_jahr_samstag_ohne_ZZ.htm");

@@ -137,7 +137,7 @@ TEST_F(Haeufigkeitsbildschirm, WeistFalscheJahreZurueck)
     EXPECT_EQ(boxen(), QStringList{"info|Lotto-Nachricht|Jahreszahlen 4-stellig eingeben !"});
     setze("Text2", "abcd");
     klicke("Befehl2");
-    EXPECT_EQ(boxen(), QStringList());
+    EXPECT_EQ(boxen(), QStringList{"info|Lotto-Nachricht|Jahreszahlen 4-stellig eingeben !"});
     EXPECT_EQ(lies("bezeichnung114(7)"), vorher);
 }
 
@@ -216,6 +216,79 @@ TEST_F(Haeufigkeitsbildschirm, AUndBNachZiehungZaehltJedeDateiBisDahin)
     pruefe(erwartet);
     EXPECT_EQ(titel(), "Mittwochslotto (A+B): Auswertung von Ziehung 1 bis Ziehung 1000 ,ohne Zusatzzahl");
     EXPECT_EQ(lies("Text3"), "1000");
+}
+
+TEST_F(Haeufigkeitsbildschirm, NachAUndBVonBAusSchraenkenKeineVerborgenenJahreEin)
+{
+    starte();
+    klicke("Option3");
+    oeffne("frmSTAT1");
+    klicke("Befehl9");
+    klicke("Befehl8");
+    EXPECT_EQ(lies("Text3"), "757");
+    setze("Text3", "1000");
+    klicke("Befehl2");
+    pruefe(zaehleText(datei("MALOTTO.DAT"), 1986, 2026, 1000, true, false));
+    EXPECT_EQ(lies("Bezeichnung58"), "1000");
+    EXPECT_EQ(titel(), "Mittwochslotto : Auswertung von Ziehung 1 bis Ziehung 1000 , ohne Zusatzzahl");
+}
+
+TEST_F(Haeufigkeitsbildschirm, DerKnopfDesGezeigtenErgebnissesSiehtSoAus)
+{
+    const QStringList knoepfe{"Befehl2", "Befehl3", "Befehl4", "Befehl8"};
+    starte();
+    klicke("Option2");
+    oeffne("frmSTAT1");
+    EXPECT_EQ(gelaufene(knoepfe), QStringList());
+    for (const QString& knopf : knoepfe) {
+        klicke(knopf);
+        EXPECT_EQ(gelaufene(knoepfe), QStringList{knopf});
+    }
+    setze("Text1", "19");
+    klicke("Befehl3");
+    EXPECT_EQ(gelaufene(knoepfe), QStringList{"Befehl8"});
+}
+
+TEST_F(Haeufigkeitsbildschirm, EnterImFeldUndF5DrueckenDenStartknopfVonZuletzt)
+{
+    starte();
+    oeffne("frmSTAT1");
+    tippe("Text1", "Return");
+    EXPECT_TRUE(titel().endsWith("; ohne Zusatzzahl"));
+    klicke("Befehl4");
+    setze("Text2", "2000");
+    tippe("Text2", "Return");
+    EXPECT_TRUE(titel().startsWith("Samstagslotto: Auswertung von 1955 bis 2000"));
+    EXPECT_TRUE(titel().endsWith("; nur Zusatzzahl"));
+    klicke("Befehl9");
+    setze("Text3", "50");
+    tippe("Text3", "Return");
+    EXPECT_EQ(titel(), "Samstagslotto: Auswertung von Ziehung 1 bis Ziehung 50 , nur Zusatzzahl");
+    klicke("Befehl3");
+    setze("Text3", "60");
+    tippe("frmSTAT1", "F5");
+    EXPECT_EQ(titel(), "Samstagslotto: Auswertung von Ziehung 1 bis Ziehung 60 , mit Zusatzzahl");
+}
+
+TEST_F(Haeufigkeitsbildschirm, WennDasErgebnisKommtVerschiebtSichNichts)
+{
+    starte();
+    for (const char* option : {"Option1", "Option2"}) {
+        klicke(option);
+        oeffne("frmSTAT1");
+        const auto plaetze = [this] {
+            QList<QRect> alle;
+            for (const auto* feld : buehne.bildschirme.geladen("frmSTAT1")->findChildren<QWidget*>())
+                if (feld->isVisible() && feld->objectName() != "Befehl5")
+                    alle << feld->geometry();
+            return alle;
+        };
+        const QList<QRect> vorher = plaetze();
+        klicke("Befehl2");
+        klicke("Befehl4");
+        EXPECT_EQ(plaetze(), vorher);
+        schliesse();
+    }
 }
 
 TEST_F(Haeufigkeitsbildschirm, DrucktAufDenStandarddrucker)

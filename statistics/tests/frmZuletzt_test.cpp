@@ -203,6 +203,77 @@ TEST_F(Zuletztbildschirm, DieAuswahlFolgtDerGetipptenZiehung)
     EXPECT_TRUE(bedienbar("Befehl4"));
 }
 
+TEST_F(Zuletztbildschirm, EineGetippteZiehungSperrtDieWochenBisZurNaechstenAuswertung)
+{
+    starte();
+    oeffne("frmZuletzt");
+    klicke("Befehl5");
+    EXPECT_TRUE(bedienbar("Befehl4"));
+    tippe("Text1", "Backspace");
+    EXPECT_FALSE(bedienbar("Befehl4"));
+    EXPECT_TRUE(bedienbar("Befehl3"));
+    klicke("Befehl6");
+    EXPECT_TRUE(bedienbar("Befehl4"));
+    setze("Text1", "99999");
+    EXPECT_FALSE(bedienbar("Befehl4"));
+    klicke("Befehl6");
+    EXPECT_EQ(lies("Text1"), QString::number(anzahl()));
+    EXPECT_TRUE(bedienbar("Befehl4"));
+}
+
+TEST_F(Zuletztbildschirm, DieselbeZiehungNochEinmalGewaehltSperrtDieWochen)
+{
+    starte();
+    oeffne("frmZuletzt");
+    const QString fuenfte = bedienung.eintraege("cmbZ").zeilen[4];
+    setze("cmbZ", fuenfte);
+    klicke("Befehl5");
+    EXPECT_TRUE(bedienbar("Befehl4"));
+    setze("cmbZ", fuenfte);
+    EXPECT_FALSE(bedienbar("Befehl4"));
+}
+
+TEST_F(Zuletztbildschirm, DerKnopfDesGezeigtenErgebnissesSiehtSoAus)
+{
+    const QStringList knoepfe{"Befehl5", "Befehl6", "Befehl7", "Befehl1"};
+    starte();
+    klicke("Option2");
+    oeffne("frmZuletzt");
+    EXPECT_EQ(gelaufene(knoepfe), QStringList());
+    for (const QString& knopf : knoepfe) {
+        klicke(knopf);
+        EXPECT_EQ(gelaufene(knoepfe), QStringList{knopf});
+    }
+}
+
+TEST_F(Zuletztbildschirm, EnterImFeldUndF5DrueckenDenStartknopfVonZuletzt)
+{
+    starte();
+    oeffne("frmZuletzt");
+    setze("Text1", "5");
+    tippe("Text1", "Return");
+    EXPECT_EQ(ergebnis().Grenze, 5);
+    EXPECT_EQ(ergebnis().ZaehlModus, ZZModus::Ohne);
+    klicke("Befehl6");
+    setze("Text1", "6");
+    tippe("frmZuletzt", "F5");
+    EXPECT_EQ(ergebnis().Grenze, 6);
+    EXPECT_EQ(ergebnis().ZaehlModus, ZZModus::Mit);
+}
+
+TEST_F(Zuletztbildschirm, DieWochenSindDieDesErgebnissesAuchNachEinemAnderenArchiv)
+{
+    starte();
+    oeffne("frmZuletzt");
+    klicke("Befehl5");
+    const int grenze = anzahl();
+    const auto letzte = datei("SALOTTO.DAT").letzte(2000, grenze, true, false);
+    buehne.umgebung.menue->waehleSpielart(MittwochslottoB);
+    klicke("Befehl4");
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        EXPECT_EQ(zelle(zahl), QString::number(grenze - letzte[static_cast<std::size_t>(zahl)])) << zahl;
+}
+
 TEST_F(Zuletztbildschirm, EineZuHoheAnzahlWirdBerichtigt)
 {
     starte();
