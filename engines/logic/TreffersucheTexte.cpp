@@ -6,6 +6,17 @@
 
 namespace {
 
+/// About what the report takes: a row and its line end, and all that stands around the rows.
+std::size_t groesse(const Trefferbericht& angaben)
+{
+    constexpr std::size_t kZeile = 43;
+    constexpr std::size_t kRest = 2048;
+    std::size_t bytes = kRest;
+    for (const Trefferbericht::Abschnitt& liste : angaben.listen)
+        bytes += liste.zeilen * kZeile;
+    return bytes;
+}
+
 std::string mitSchwelle(std::string_view titel, std::string_view vergleich, std::uint32_t schwelle)
 {
     return std::string(titel) + " (" + std::string(vergleich) + std::to_string(schwelle) + "):";
@@ -69,10 +80,10 @@ std::string anzahltext(const Treffersuche& suche, Rangliste liste)
 std::string treffersucheBericht(const Trefferbericht& angaben, const Fortschritt& weiter)
 {
     ClipReport bericht;
-    bericht.zeile(kTreffersucheTitel).zeile("In die Auswertung einbezogene Ziehungen:");
-    for (std::size_t i = 0; i < angaben.spielarten.size(); ++i)
-        bericht.zeile(angaben.spielarten[i] + ":      " + angaben.staende[i]);
-    bericht.zeile(angaben.ziehungen);
+    bericht.reserviere(groesse(angaben)).zeile(kTreffersucheTitel).zeile("In die Auswertung einbezogene Ziehungen:");
+    for (std::size_t i = 0; i < angaben.auftrag.spielarten.size(); ++i)
+        bericht.zeile(angaben.auftrag.spielarten[i] + ":      " + angaben.auftrag.staende[i]);
+    bericht.zeile(angaben.auftrag.ziehungen);
 
     Takt takt(weiter);
     std::uint64_t erledigt = 0;
@@ -86,6 +97,6 @@ std::string treffersucheBericht(const Trefferbericht& angaben, const Fortschritt
                 return {};
         }
     }
-    bericht.leerzeile().zeile(angaben.frage + (angaben.auchHoehere ? " ja" : " nein"));
+    bericht.leerzeile().zeile(angaben.frage + (angaben.auftrag.auchHoehere ? " ja" : " nein"));
     return bericht.leerzeile().schlusshinweis().text();
 }

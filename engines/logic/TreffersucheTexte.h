@@ -26,7 +26,15 @@ std::string vergleicheText(std::uint64_t erledigt, std::uint64_t ziehungen);
 /// What stands below a list: the count of its rows, for the worst ones with the count of all without a win.
 std::string anzahltext(const Treffersuche& suche, Rangliste liste);
 
-/// What the report says, as it stands on the screen.
+/// What a search goes through and asks for, in the words of the screen.
+struct Trefferauftrag {
+    std::array<std::string, 3> spielarten; ///< captions of the boxes
+    std::array<std::string, 3> staende;    ///< what the file of each holds
+    std::string ziehungen;                 ///< the line with the count of draws
+    bool auchHoehere = false;              ///< higher ranks are asked for too
+};
+
+/// What the report says: the search, and the lists as they stand on the screen.
 struct Trefferbericht {
     struct Abschnitt {
         std::string titel;
@@ -34,16 +42,13 @@ struct Trefferbericht {
         std::size_t zeilen = 0;
         std::function<std::string(std::size_t)> zeile; ///< by its index
     };
-    std::array<std::string, 3> spielarten; ///< captions of the boxes
-    std::array<std::string, 3> staende;    ///< what the file of each holds
-    std::string ziehungen;                 ///< the line with the count of draws
+    Trefferauftrag auftrag;
     std::array<Abschnitt, kRanglisten> listen;
     std::string frage; ///< caption of the box that asks for higher ranks too
-    bool auchHoehere = false;
 };
 
 /// Most rows that a report takes.
-inline constexpr std::size_t kHoechsteBerichtszeilen = 1'000'000;
+inline constexpr std::size_t kHoechsteBerichtszeilen = 5'000'000;
 
 /// `weiter` is called now and then with the count of rows done; false ends the report with the empty text. The lists
 /// have at most `kHoechsteBerichtszeilen` rows.

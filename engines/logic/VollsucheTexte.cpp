@@ -42,6 +42,25 @@ std::string wochentext(const std::pair<std::int32_t, std::int32_t>& jahrUndWoche
     return Format(jahrUndWoche.first, "0000") + "/" + Format(jahrUndWoche.second, "00");
 }
 
+/// What the texts of two dates such as "So, 09.10.1955" are compared by: year, month, day. Any other text comes first.
+std::array<std::string_view, 3> datumsfolge(std::string_view datum)
+{
+    return {Mid(datum, 11, 4), Mid(datum, 8, 2), Mid(datum, 5, 2)};
+}
+
+/// The ZiehungsNr of the latest of the draws; of several on one day the last; 0 without draws.
+std::size_t letzteZiehung(const ZiehungsArchiv& archiv, const std::vector<std::string>& daten)
+{
+    const auto folge = [&daten](std::size_t nr) {
+        return datumsfolge(nr < daten.size() ? std::string_view(daten[nr]) : std::string_view());
+    };
+    std::size_t letzte = 0;
+    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr)
+        if (folge(nr) >= folge(letzte))
+            letzte = nr;
+    return letzte;
+}
+
 std::string bericht(const Suchquelle& quelle, const std::string& titel, std::span<const std::string> zeilen)
 {
     if (zeilen.empty())
@@ -138,7 +157,7 @@ std::string schaetzung(const Suchergebnis& ergebnis, std::int64_t sekunden)
 
 Suchquelle suchquelle(const ZiehungsArchiv& archiv, std::string_view spiel, const std::vector<std::string>& daten)
 {
-    const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
+    const std::size_t letzte = letzteZiehung(archiv, daten);
     return {std::string(spiel), jahrUndWoche(archiv, letzte), letzte < daten.size() ? daten[letzte] : "",
             archiv.AnzahlZiehungen};
 }

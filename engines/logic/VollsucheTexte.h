@@ -52,7 +52,7 @@ std::string schaetzung(const Suchergebnis& ergebnis, std::int64_t sekunden);
 /// Whose draws a search went through, and up to which one.
 struct Suchquelle {
     std::string spiel;
-    std::string jahrUndWoche; ///< of the last draw
+    std::string jahrUndWoche; ///< of the latest draw by its date, in whatever order the draws stand
     std::string datum;
     std::int32_t ziehungen = 0;
 };

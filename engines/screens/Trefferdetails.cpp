@@ -23,7 +23,6 @@ TextAlign ausrichtung(Trefferfeld feld)
 
 Trefferdetails::Trefferdetails(Bildschirm& bildschirm, std::span<const Trefferspalte> spalten, QLayout* dazu)
     : Rahmen({}, &bildschirm),
-      bildschirm_(bildschirm),
       spalten_(spalten),
       ListView1(new ListView(this)),
       lblDetail(new QLabel(this)),
@@ -55,11 +54,12 @@ void Trefferdetails::baueSpalten()
     ListView1->setDrawCallback(this);
 }
 
-void Trefferdetails::zeige(const Kombination& kombination, std::optional<std::int32_t> superzahl)
+void Trefferdetails::zeige(const ZiehungsArchiv& ziehungen, const Kombination& kombination,
+                           std::optional<std::int32_t> superzahl)
 {
     leere();
     kombination_ = kombination;
-    faelle_ = gewinnfaelle(bildschirm_.umgebung().archiv, kombination, superzahl);
+    faelle_ = gewinnfaelle(ziehungen, kombination, superzahl);
     setTitle("Trefferliste für die Kombination: " + qt(zahlentext(kombination)));
     lblDetail->setText("Anzahl der Gewinnfälle: " + QString::number(faelle_.size()));
     ListView1->PrepareForItems(static_cast<int>(faelle_.size()));

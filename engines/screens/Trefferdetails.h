@@ -17,8 +17,9 @@ public:
     /// `spalten` must outlive the frame; `dazu` stands between the list and the count.
     Trefferdetails(Bildschirm& bildschirm, std::span<const Trefferspalte> spalten, QLayout* dazu = nullptr);
 
-    /// Shows the hits of a combination. Without a chosen Superzahl only three right numbers or more win.
-    void zeige(const Kombination& kombination, std::optional<std::int32_t> superzahl = {});
+    /// Shows the hits of a combination in the draws. Without a chosen Superzahl only three right numbers or more win.
+    void zeige(const ZiehungsArchiv& ziehungen, const Kombination& kombination,
+               std::optional<std::int32_t> superzahl = {});
     /// Takes the combination away.
     void leere();
 
@@ -33,7 +34,6 @@ private:
     void fuelleWeiter();
     void haengeAn(const Gewinnfall& fall);
 
-    Bildschirm& bildschirm_;
     std::span<const Trefferspalte> spalten_;
     std::optional<Kombination> kombination_;
     std::vector<Gewinnfall> faelle_;

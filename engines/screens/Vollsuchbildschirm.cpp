@@ -143,8 +143,11 @@ std::string Vollsuchbildschirm::spiel() const
     return wahl_ ? wahl_->namen() : std::string(spielartName(umgebung().archiv.Spielart));
 }
 
+/// What was found keeps the title that tells of its draws, until the next search.
 void Vollsuchbildschirm::zeigeStand()
 {
+    if (ergebnis_.groesse != 0)
+        return;
     setzeGrundtitel(qt(suchtitel(umgebung().archiv, spiel())));
     setzeTitel(grundtitel());
 }
@@ -179,6 +182,7 @@ void Vollsuchbildschirm::beginne(int groesse)
     const Groessentexte& texte = groessentexte(groesse);
     ergebnis_ = beginneSuche(groesse);
     quelle_ = suchquelle(archiv, spiel(), wahl_ ? archiv.DatumAlle : archiv.Datum);
+    setzeGrundtitel(qt(suchtitel(archiv, quelle_.spiel)));
     ClearList(&Liste3->modell());
     ClearList(&Liste1->modell());
     gezeigteWiederholungen_ = gezeigteNieGezogene_ = 0;

@@ -55,7 +55,7 @@ WiederholungsBildschirm::WiederholungsBildschirm(Umgebung& umgebung, const QStri
                                                  const Wiederholungsart& art, const std::vector<std::string>& hinweise)
     : Bildschirm(umgebung, name, titel),
       art_(art),
-      details_(std::make_shared<Detailzeilen>())
+      details_(std::make_shared<Details>())
 {
     baueFelder();
     Liste2 = liste("Liste2");
@@ -142,8 +142,10 @@ void WiederholungsBildschirm::ZeigeDetails(const Feld& hier)
     Text15->setText(titelAller(hier.k));
     Lauf lauf(*this, "Bitte warten, die detailierte Suchliste wird erstellt !");
     Liste3->modell().Clear();
-    zeige(wiederholungDetails(umgebung().archiv, hier.k, art_, modell.zeilen(),
-                              [&lauf](std::uint64_t) { return lauf.zug(); }));
+    const auto quelle = quelleVon(hier);
+    zeige(wiederholungDetails(quelle->ziehungen, hier.k, art_, modell.zeilen(),
+                              [&lauf](std::uint64_t) { return lauf.zug(); }),
+          *quelle);
     if (modell.SetListIndex(0)) {
         hier.liste->zeigeZeile(0);
         modell.SetListIndex(ListenModell::kKeiner);
@@ -164,26 +166,38 @@ void WiederholungsBildschirm::ZeigeDetail(const Feld& hier)
             andere.liste->modell().SetListIndex(ListenModell::kKeiner);
     Wiederholungslaenge = hier.k;
     Text15->setText(QString("Bei diesen Lottoziehungen wurde die %1-er Kombination gezogen").arg(hier.k));
-    zeige(wiederholungDetails(umgebung().archiv, hier.k, art_, {&zeile, 1}));
+    const auto quelle = quelleVon(hier);
+    zeige(wiederholungDetails(quelle->ziehungen, hier.k, art_, {&zeile, 1}), *quelle);
 }
 
-void WiederholungsBildschirm::zeige(Detailzeilen details)
+void WiederholungsBildschirm::zeige(Detailzeilen zeilen, const Quelle& quelle)
 {
-    details_ = std::make_shared<const Detailzeilen>(std::move(details));
-    Liste3->modell().aufAnfrage(details_->anzahl(),
-                                [zeilen = details_](std::size_t index) { return zeilen->zeile(index); });
+    details_ = std::make_shared<const Details>(Details{std::move(zeilen), quelle.spiel, quelle.schluss});
+    Liste3->modell().aufAnfrage(details_->zeilen.anzahl(),
+                                [details = details_](std::size_t index) { return details->zeilen.zeile(index); });
     Liste3->zeigeZeile(0);
     Befehl18->setEnabled(true);
 }
 
+WiederholungsBildschirm::Quelle WiederholungsBildschirm::gegenwart() const
+{
+    return {umgebung().archiv, spielname(), berichtsschluss()};
+}
+
+std::shared_ptr<const WiederholungsBildschirm::Quelle> WiederholungsBildschirm::quelleVon(const Feld& hier) const
+{
+    return hier.quelle ? hier.quelle : std::make_shared<const Quelle>(gegenwart());
+}
+
 std::string WiederholungsBildschirm::KopiereListe(const Feld& hier) const
 {
-    return listenBericht(wiederholungsname(hier.k).wiederholungen, spielname(), hier.liste->modell().zeilen(),
-                         berichtsschluss());
+    const auto quelle = quelleVon(hier);
+    return listenBericht(wiederholungsname(hier.k).wiederholungen, quelle->spiel, hier.liste->modell().zeilen(),
+                         quelle->schluss);
 }
 
 std::string WiederholungsBildschirm::KopiereDetails() const
 {
-    return detailBericht(wiederholungsname(Wiederholungslaenge).wiederholungen, spielname(), *details_,
-                         berichtsschluss());
+    return detailBericht(wiederholungsname(Wiederholungslaenge).wiederholungen, details_->spiel, details_->zeilen,
+                         details_->schluss);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "archive/logic/ZiehungsArchiv.h"
 #include "engines/logic/WiederholungDetails.h"
 #include "shell/elements/Bildschirm.h"
 
@@ -23,6 +24,13 @@ public:
     const std::vector<std::string>& ergebniszeilen(int k) const;
 
 protected:
+    /// What a search goes through, and what its reports say of that. It stays with the result when the games change.
+    struct Quelle {
+        ZiehungsArchiv ziehungen;
+        std::string spiel;   ///< the game or the games
+        std::string schluss; ///< last line of a report
+    };
+
     /// What stands on the screen for one `k`.
     struct Feld {
         int k = 0;
@@ -30,6 +38,7 @@ protected:
         QPushButton *suchen = nullptr, *details = nullptr, *clip = nullptr;
         QLabel* anzahl = nullptr; ///< of the lines; not every screen shows it
         Wiederholungen ergebnis;
+        std::shared_ptr<const Quelle> quelle; ///< of the last search; null before the first one
     };
 
     /// `hinweise` are lines of the explanation behind those of both screens.
@@ -54,7 +63,7 @@ protected:
     virtual void zeigtZiehung(std::size_t nr) { Q_UNUSED(nr) }
     /// Asked after each turn of the event loop in a search.
     virtual bool sollEnden() const { return false; }
-    /// The game or the games, and the last line, of a report.
+    /// The game or the games, and the last line, of a report on the draws as they are now.
     virtual std::string spielname() const = 0;
     virtual std::string berichtsschluss() const { return {}; }
 
@@ -63,6 +72,13 @@ protected:
     QGroupBox* Rahmen2;
 
 private:
+    /// The rows of the detail list, and whose draws they are.
+    struct Details {
+        Detailzeilen zeilen;
+        std::string spiel;
+        std::string schluss;
+    };
+
     void baueFelder();
     QLayout* feldblock(Feld& hier);
     void sperre(const Feld& hier);
@@ -72,14 +88,16 @@ private:
     void zeigeAnzahl(const Feld& hier);
     void ZeigeDetails(const Feld& hier);
     void ZeigeDetail(const Feld& hier);
-    void zeige(Detailzeilen details);
+    void zeige(Detailzeilen zeilen, const Quelle& quelle);
+    Quelle gegenwart() const;
+    std::shared_ptr<const Quelle> quelleVon(const Feld& hier) const;
     std::string KopiereListe(const Feld& hier) const;
     std::string KopiereDetails() const;
 
     const Wiederholungsart& art_;
     std::array<Feld, 5> felder_;
     int Wiederholungslaenge = kKleinsteWiederholung; ///< of the last search, or of the list that was clicked last
-    std::shared_ptr<const Detailzeilen> details_;
+    std::shared_ptr<const Details> details_;
     Textanzeige* txtH;
     Liste *Liste2, *Liste3;
     Infotafel* Rahmen1;

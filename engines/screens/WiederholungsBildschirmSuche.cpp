@@ -62,26 +62,30 @@ void WiederholungsBildschirm::suche(int k)
         hier.suchen->setFocus();
     zeigeAnzahl(hier);
     Text15->setText("Bei diesen Lottoziehungen wurde die Kombination gezogen");
-    if (k == 6 && hier.liste->zeilenzahl() > 0)
+    if (k == 6)
         hier.liste->modell().SetListIndex(0);
+    else
+        hier.liste->zeigeZeile(hier.liste->zeilenzahl() - 1); // the most frequent
 }
 
 void WiederholungsBildschirm::WiederholungsSuche(Feld& hier)
 {
     const Wiederholungsname& name = wiederholungsname(hier.k);
+    hier.quelle = std::make_shared<const Quelle>(gegenwart());
     beginntSuche();
     Bezeichnung2->clear();
     Lauf lauf(*this, qt(name.zerlegen));
     setzeTitel(qt(kSucheLaeuft));
     clsTimer uhr;
     uhr.ResetTimer();
-    hier.ergebnis = ::WiederholungsSuche(umgebung().archiv, hier.k, [&](Suchschritt schritt, std::uint64_t erledigt) {
-        if (schritt == Suchschritt::Zerlegen)
-            zeigtZiehung(erledigt + 1);
-        else
-            setzeTitel(qt(name.vergleichen));
-        return lauf.zug() && !sollEnden();
-    });
+    hier.ergebnis =
+        ::WiederholungsSuche(hier.quelle->ziehungen, hier.k, [&](Suchschritt schritt, std::uint64_t erledigt) {
+            if (schritt == Suchschritt::Zerlegen)
+                zeigtZiehung(erledigt + 1);
+            else
+                setzeTitel(qt(name.vergleichen));
+            return lauf.zug() && !sollEnden();
+        });
     fuelleListe(hier, lauf);
     if (hier.ergebnis.vollstaendig) {
         txtH->zeige(zusammenfassung(hier.ergebnis));

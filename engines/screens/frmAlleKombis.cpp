@@ -186,7 +186,7 @@ void frmAlleKombis::ZeigeTreffer()
     const std::ptrdiff_t zeile = List1->modell().ListIndex();
     if (zeile == ListenModell::kKeiner)
         return;
-    FrameDetail->zeige(seite_[static_cast<std::size_t>(zeile)].zahlen, superzahl());
+    FrameDetail->zeige(umgebung().archiv, seite_[static_cast<std::size_t>(zeile)].zahlen, superzahl());
     zeigeZaehler();
 }
 
@@ -205,7 +205,7 @@ void frmAlleKombis::wechsleSuperzahl()
     ZeigeSeite();
     List1->modell().SetListIndex(zeile);
     if (const std::optional<Kombination> gezeigte = FrameDetail->kombination()) {
-        FrameDetail->zeige(*gezeigte, superzahl());
+        FrameDetail->zeige(umgebung().archiv, *gezeigte, superzahl());
         zeigeZaehler();
     }
 }

@@ -51,12 +51,11 @@ frmFÜNFW::frmFÜNFW(Umgebung& umgebung)
     Liste1 = liste("Liste1");
     Kontroll1 = kontroll("Kontroll1", "ein/aus");
     Befehl14 = befehl("Befehl14", "&Abbruch");
-    Bezeichnung3 = bezeichnung("Bezeichnung3", qt(ziehungsbereich(umgebung.archiv)));
-    Bezeichnung13 = bezeichnung("Bezeichnung13", qt(spielartGross(umgebung.archiv.Spielart)));
+    Bezeichnung3 = bezeichnung("Bezeichnung3");
+    Bezeichnung13 = bezeichnung("Bezeichnung13");
     alsUeberschrift(Bezeichnung13);
     Kontroll1->setChecked(true);
     Liste1->setzeSichtbar(5, static_cast<int>(kEineSpielart.striche));
-    fuelleZiehungen();
 
     // clang-format off
     setzeInhalt(spalte({
@@ -84,6 +83,8 @@ frmFÜNFW::frmFÜNFW(Umgebung& umgebung)
 void frmFÜNFW::beimZeigen()
 {
     Bezeichnung13->setText(qt(spielartGross(umgebung().archiv.Spielart)));
+    Bezeichnung3->setText(qt(ziehungsbereich(umgebung().archiv)));
+    fuelleZiehungen();
 }
 
 void frmFÜNFW::fuelleZiehungen()

@@ -70,7 +70,8 @@ frmTreffer::frmTreffer(Umgebung& umgebung)
     FrameDetail = new Trefferdetails(*this, kTrefferspalten);
     cmdSortAuf = new Pfeilknopf("cmdSortAuf", "5", "Listen aufsteigend sortieren", this);
     cmdSortAb = new Pfeilknopf("cmdSortAb", "6", "Listen absteigend sortieren", this);
-    cmdClip = befehl("cmdClip", "Clip");
+    cmdClip = clipBefehl("cmdClip", [this] { return bericht(); });
+    cmdClip->setText("Clip");
     cmdClip->setToolTip("Überträgt die Ergebnislisten in die Zwischenablage");
     cmdInfo = befehl("cmdInfo", "Info");
     cmdEnd = befehl("cmdEnd", "<<");
@@ -130,9 +131,8 @@ void frmTreffer::verbinde()
     }
     bei(Command1, [this] { suche(); });
     bei(cmdAbbruch, [this] { stoppe(); });
-    bei(cmdSortAuf, [this] { sortiere(false); });
-    bei(cmdSortAb, [this] { sortiere(true); });
-    bei(cmdClip, [this] { kopiere(); });
+    bei(cmdSortAuf, [this] { wendeListen(false); });
+    bei(cmdSortAb, [this] { wendeListen(true); });
     bei(cmdInfo, [this] { frameInfo->zeige(); });
     bei(cmdEnd, [this] { schliesse(); });
 }
@@ -146,8 +146,8 @@ void frmTreffer::suche()
     beginne(schwellen);
     clsTimer zeit;
     zeit.ResetTimer();
-    const std::vector<Zahlenmenge> reihen = ziehungsmengen(umgebung().archiv);
-    ergebnis_ = sucheTreffer(reihen, schwellen, !chkHoeher->isChecked(),
+    const std::vector<Zahlenmenge> reihen = ziehungsmengen(ziehungen_);
+    ergebnis_ = sucheTreffer(reihen, schwellen, !auftrag_->auchHoehere,
                              [this, &lauf, ziehungen = reihen.size()](std::uint64_t erledigt) {
                                  zeigeStand(erledigt, ziehungen);
                                  return lauf.weiter();
@@ -167,7 +167,10 @@ void frmTreffer::beginne(const Trefferschwellen& schwellen)
         felder_[i].titel->setText(qt(ranglistentitel(static_cast<Rangliste>(i), schwellen)));
         felder_[i].liste->modell().Clear();
     }
+    FrameDetail->leere();
     Frame1->zeigeAnzahl();
+    ziehungen_ = umgebung().archiv;
+    auftrag_ = auftrag();
 }
 
 void frmTreffer::zeigeStand(std::uint64_t erledigt, std::uint64_t ziehungen)
@@ -186,6 +189,14 @@ void frmTreffer::zeigeErgebnis()
         feldVon(Rangliste::Sechs).liste->modell().fuelle({kOhneSechser.begin(), kOhneSechser.end()});
 }
 
+/// A report that is being made keeps its order.
+void frmTreffer::wendeListen(bool absteigend)
+{
+    if (!laeuft())
+        sortiere(absteigend);
+}
+
+/// The best come into sight, in the list of the worst ones these.
 void frmTreffer::sortiere(bool absteigend)
 {
     for (std::size_t i = 0; i < felder_.size(); ++i) {
@@ -197,6 +208,8 @@ void frmTreffer::sortiere(bool absteigend)
             modell.aufAnfrage(rang.anzahl(), [&rang, absteigend](std::size_t zeile) {
                 return rang.zeile(absteigend ? rang.anzahl() - 1 - zeile : zeile);
             });
+        const bool amEnde = absteigend == (static_cast<Rangliste>(i) == Rangliste::Loser);
+        felder_[i].liste->zeigeZeile(amEnde ? felder_[i].liste->zeilenzahl() - 1 : 0);
     }
 }
 
@@ -204,28 +217,37 @@ void frmTreffer::zeigeTreffer(Rangliste liste, int zeile)
 {
     const std::string text = feldVon(liste).liste->modell().List(static_cast<std::size_t>(zeile));
     if (const auto kombination = liesKombination(text.substr(text.rfind('|') + 1)))
-        FrameDetail->zeige(*kombination);
+        FrameDetail->zeige(ziehungen_, *kombination);
+}
+
+/// The search that would start now.
+Trefferauftrag frmTreffer::auftrag() const
+{
+    Trefferauftrag auftrag;
+    for (std::size_t i = 0; i < auftrag.spielarten.size(); ++i) {
+        auftrag.spielarten[i] = utf8(Frame1->beschriftung(static_cast<int>(i)));
+        auftrag.staende[i] = utf8(Frame1->stand(static_cast<int>(i)));
+    }
+    auftrag.ziehungen = utf8(Frame1->anzahltext());
+    auftrag.auchHoehere = chkHoeher->isChecked();
+    return auftrag;
 }
 
 Trefferbericht frmTreffer::angaben() const
 {
     Trefferbericht angaben;
-    for (std::size_t i = 0; i < angaben.spielarten.size(); ++i) {
-        angaben.spielarten[i] = utf8(Frame1->beschriftung(static_cast<int>(i)));
-        angaben.staende[i] = utf8(Frame1->stand(static_cast<int>(i)));
-    }
-    angaben.ziehungen = utf8(Frame1->anzahltext());
+    angaben.auftrag = auftrag_ ? *auftrag_ : auftrag();
     for (std::size_t i = 0; i < felder_.size(); ++i) {
         const ListenModell& modell = felder_[i].liste->modell();
         angaben.listen[i] = {utf8(felder_[i].titel->text()), utf8(felder_[i].lblCount->text()), modell.ListCount(),
                              [&modell](std::size_t zeile) { return modell.List(zeile); }};
     }
     angaben.frage = utf8(chkHoeher->text());
-    angaben.auchHoehere = chkHoeher->isChecked();
     return angaben;
 }
 
-void frmTreffer::kopiere()
+/// Empty if it is too long, stopped, or the screen is at work.
+std::string frmTreffer::bericht()
 {
     std::size_t zeilen = 0;
     for (const Feld& feld : felder_)
@@ -233,14 +255,12 @@ void frmTreffer::kopiere()
     if (zeilen > kHoechsteBerichtszeilen) {
         umgebung().boxen.info(kProgrammtitel, qt("Die Ergebnislisten sind mit " + Format(zeilen, "#,###,###") +
                                                  " Zeilen zu lang für die Zwischenablage."));
-        return;
+        return {};
     }
     Lauf lauf(*this);
     if (!lauf)
-        return;
-    const std::string bericht = treffersucheBericht(angaben(), lauf.fortschritt());
-    if (!bericht.empty())
-        umgebung().zwischenablage.setze(qt(bericht));
+        return {};
+    return treffersucheBericht(angaben(), lauf.fortschritt());
 }
 
 void frmTreffer::setzeBedienbar(bool bedienbar)

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "archive/logic/ZiehungsArchiv.h"
 #include "engines/logic/TreffersucheTexte.h"
 #include "shell/elements/Bildschirm.h"
+
+#include <optional>
 
 class Infotafel;
 class Spielartenwahl;
@@ -37,13 +40,17 @@ private:
     void zeigeStand(std::uint64_t erledigt, std::uint64_t ziehungen);
     void zeigeErgebnis();
     void sortiere(bool absteigend);
+    void wendeListen(bool absteigend);
     void zeigeTreffer(Rangliste liste, int zeile);
+    Trefferauftrag auftrag() const;
     Trefferbericht angaben() const;
-    void kopiere();
+    std::string bericht();
     void setzeBedienbar(bool bedienbar);
 
     std::int16_t spielartBeimLaden_;
     Treffersuche ergebnis_;
+    ZiehungsArchiv ziehungen_;              ///< those of the last search
+    std::optional<Trefferauftrag> auftrag_; ///< of the last search
     std::array<Feld, kRanglisten> felder_{};
     Spielartenwahl* Frame1;
     Trefferdetails* FrameDetail;

@@ -22,8 +22,8 @@ frmZusammenFÜNFW::frmZusammenFÜNFW(Umgebung& umgebung)
     lblCaption = bezeichnung("lblCaption", "Nie gezogene Dreierkominationen");
     lblNGD = bezeichnung("lblNGD");
     cmdNGD = befehl("cmdNGD", "Start");
-    cmdClipNGD =
-        clipBefehl("cmdClipNGD", [this] { return nieGezogeneBericht(spielname(), lstNGD->modell().zeilen()); });
+    cmdClipNGD = clipBefehl("cmdClipNGD",
+                            [this] { return nieGezogeneBericht(spieleDerNieGezogenen_, lstNGD->modell().zeilen()); });
     cmdClipNGD->setText("Clip");
     lstNGD->setzeSichtbar(8, 11);
 
@@ -68,6 +68,7 @@ void frmZusammenFÜNFW::sucheNieGezogene()
     uhr.ResetTimer();
     Bezeichnung2->clear();
     lblNGD->clear();
+    spieleDerNieGezogenen_ = spielname();
     lstNGD->modell().fuelle(nieGezogeneDreier(umgebung().archiv));
     lblNGD->setNum(lstNGD->zeilenzahl());
     uhr.StopTimer();

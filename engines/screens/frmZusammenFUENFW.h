@@ -16,6 +16,7 @@ protected:
 private:
     void sucheNieGezogene();
 
+    std::string spieleDerNieGezogenen_; ///< those of their search; empty before the first one
     Spielartenwahl* frmArt;
     Liste* lstNGD;
     QLabel *lblCaption, *lblNGD;

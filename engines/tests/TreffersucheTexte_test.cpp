@@ -53,9 +53,9 @@ Trefferbericht::Abschnitt abschnitt(const char* titel, const char* anzahl, std::
 Trefferbericht angaben()
 {
     Trefferbericht bericht;
-    bericht.spielarten = {"Sa", "Mi", "Mi (B)"};
-    bericht.staende = {"3693  [2026/29]", "-", "-"};
-    bericht.ziehungen = "Anzahl: 3693";
+    bericht.auftrag.spielarten = {"Sa", "Mi", "Mi (B)"};
+    bericht.auftrag.staende = {"3693  [2026/29]", "-", "-"};
+    bericht.auftrag.ziehungen = "Anzahl: 3693";
     bericht.listen = {abschnitt("Dreier (>=135):", "2", {"zwei", "eins"}), abschnitt("Vierer:", "0", {}),
                       abschnitt("Fünfer:", "0", {}), abschnitt("Sechser:", "0", {"keine"}),
                       abschnitt("Schlechte:", "Anzahl gesamt: 7", {})};
@@ -86,7 +86,7 @@ TEST(TreffersucheTexte, Bericht)
     EXPECT_NE(bericht.find("\r\nHöher? nein\r\n"), std::string::npos);
 
     Trefferbericht hoehere = angaben();
-    hoehere.auchHoehere = true;
+    hoehere.auftrag.auchHoehere = true;
     EXPECT_NE(treffersucheBericht(hoehere).find("\r\nHöher? ja\r\n"), std::string::npos);
 }
 

@@ -145,6 +145,23 @@ TEST(VollsucheTexte, BerichtetWiederholungenUndNieGezogene)
               "wählen sie für die Ansicht eine nichtproportionale Schriftart (z.B. Courier).\r\n");
 }
 
+TEST(VollsucheTexte, DerBerichtEndetMitDerSpaetestenZiehung)
+{
+    constexpr Zahlenreihe kZahlen{1, 2, 3, 4, 5, 6};
+    const ZiehungsArchiv archiv =
+        archivAus(Samstagslotto, {{1955, 41, kZahlen}, {2026, 30, kZahlen}, {2026, 29, kZahlen}, {2000, 48, kZahlen}});
+    const auto letzte = [&archiv](const std::vector<std::string>& daten) {
+        const Suchquelle quelle = suchquelle(archiv, "Zwei", daten);
+        return quelle.jahrUndWoche + "  " + quelle.datum;
+    };
+    EXPECT_EQ(letzte({"", "So, 09.10.1955", "Sa, 25.07.2026", "Mi, 22.07.2026", "Mi, 29.11.2000 (B)"}),
+              "2026/30  Sa, 25.07.2026");
+    EXPECT_EQ(letzte({"", "Sa, 31.12.2025", "Sa, 01.02.2026", "Mi, 31.01.2026", "Mi, 01.02.2026 (B)"}),
+              "2000/48  Mi, 01.02.2026 (B)"); // the last one of that day
+    EXPECT_EQ(letzte({"", "So, 09.10.1955"}), "1955/41  So, 09.10.1955");
+    EXPECT_EQ(letzte({}), "2000/48  ");
+}
+
 TEST(VollsucheTexte, OhneZeilenGibtEsKeinenBericht)
 {
     const Suchquelle quelle = suchquelle(archivAus(Samstagslotto, {}), "Samstagslotto", {});

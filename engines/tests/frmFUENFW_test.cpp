@@ -1,3 +1,4 @@
+#include "archive/screens/Spielartlader.h"
 #include "engines/screens/frmFUENFW.h"
 #include "engines/tests/Wiederholungsbuehne.h"
 
@@ -72,6 +73,28 @@ TEST_F(Wiederholungssuche, ZaehltZusammen)
                             "   noch nie gezogene: 1132\n"
                             "     einmal gezogene: 43\n"
                             "   mehrfach gezogene: 1\n");
+}
+
+TEST_F(Wiederholungssuche, EinNeuesArchivAendertNichtsAmErgebnis)
+{
+    oeffneDrei();
+    klicke("Befehl11");
+    klicke("Befehl15");
+    const QString bericht = buehne.zwischenablage.text();
+    EXPECT_TRUE(bericht.endsWith("Erfassungstand der Ziehungen: 1955 / 43"));
+    schreibe("SALOTTO.DAT", {"1955,41,01,02,03,04,05,06,00,0"});
+    ladeSpielart(buehne.umgebung, Samstagslotto);
+    klicke("Befehl15");
+    EXPECT_EQ(buehne.zwischenablage.text(), bericht);
+    waehle("Liste7", {0});
+    EXPECT_EQ(zeilen("Liste3"),
+              (QStringList{"Kombination:  7 19", kStriche, "1955/41  07 19 30 31 32 33   So, 09.10.1955",
+                           "1955/43  07 18 19 47 48 49   So, 23.10.1955", kStriche}));
+    klicke("Befehl18");
+    EXPECT_TRUE(buehne.zwischenablage.text().endsWith("Erfassungstand der Ziehungen: 1955 / 43"));
+    schirm("frmFÜNFW").beimZeigen();
+    EXPECT_EQ(lies("Bezeichnung3"), "1 Ziehungen von 1955/41 bis 1955/41");
+    EXPECT_EQ(zeilen("Liste1"), QStringList{"1955/41  01 02 03 04 05 06   So, 09.10.1955"});
 }
 
 TEST_F(Wiederholungssuche, OhneSechserStehtDasInDerListe)

@@ -1,9 +1,14 @@
 #include "engines/screens/frmTreffer.h"
 #include "engines/tests/Suchtest.h"
+#include "shell/elements/Liste.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QScrollBar>
 #include <QTimer>
+
+#include <random>
+#include <set>
 
 namespace {
 
@@ -19,6 +24,7 @@ protected:
 
     QStringList zeilen(const QString& liste) { return bedienung.zeilen(liste, 0, 100).zeilen; }
     qint64 anzahl(const QString& liste) { return bedienung.anzahl(liste).zeilen.value(0).toLongLong(); }
+    const QScrollBar& rolle(const char* liste) const { return *schirm().findChild<Liste*>(liste)->verticalScrollBar(); }
     frmTreffer& schirm() const { return dynamic_cast<frmTreffer&>(*buehne.bildschirme.geladen("frmTreffer")); }
 };
 
@@ -146,6 +152,49 @@ TEST_F(Trefferbildschirm, UebertraegtDieListen)
         EXPECT_TRUE(bericht.contains("\r\n" + zeile + "\r\n"));
 }
 
+TEST_F(Trefferbildschirm, BerichtUndDetailsSindDieDerSuche)
+{
+    oeffneTreffer();
+    suche();
+    const QString stand = lies("lblZ(0)");
+    const QString ziehungen = lies("lblTipp");
+    waehle("lstVier", {0});
+    const QStringList gewinne = zeilen("ListView1");
+    klicke("chkArt(0)");
+    klicke("chkArt(2)");
+    klicke("chkHoeher");
+    EXPECT_EQ(lies("lblZ(0)"), "-");
+    EXPECT_EQ(zeilen("ListView1"), gewinne);
+    waehle("lstVier", {1});
+    waehle("lstVier", {0});
+    EXPECT_EQ(zeilen("ListView1"), gewinne);
+    klicke("cmdClip");
+    const QString bericht = buehne.zwischenablage.text();
+    EXPECT_TRUE(bericht.contains("\r\nSamstagsziehungen:      " + stand + "\r\n"));
+    EXPECT_TRUE(bericht.contains("\r\n" + ziehungen + "\r\n"));
+    EXPECT_TRUE(bericht.contains("gehabt hätten? nein\r\n"));
+
+    klicke("chkArt(2)");
+    suche();
+    EXPECT_EQ(lies("FrameDetail"), "Detailliste");
+    EXPECT_EQ(anzahl("ListView1"), 0);
+    klicke("cmdClip");
+    EXPECT_TRUE(buehne.zwischenablage.text().contains("\r\nSamstagsziehungen:      -\r\n"));
+    EXPECT_TRUE(buehne.zwischenablage.text().contains("gehabt hätten? ja\r\n"));
+}
+
+TEST_F(Trefferbildschirm, DieBestenKommenInSicht)
+{
+    oeffneTreffer();
+    suche();
+    ASSERT_GT(rolle("lstVier").maximum(), 0);
+    for (const char* liste : {"lstDrei", "lstVier", "lstFuenf", "lstSechs"})
+        EXPECT_EQ(rolle(liste).value(), rolle(liste).maximum()) << liste;
+    klicke("cmdSortAb");
+    for (const char* liste : {"lstDrei", "lstVier", "lstFuenf", "lstSechs"})
+        EXPECT_EQ(rolle(liste).value(), 0) << liste;
+}
+
 /// Does something once, at the first turn of the event loop after the search has begun.
 void beimErstenZug(frmTreffer& schirm, const std::function<void()>& tue)
 {
@@ -188,6 +237,75 @@ TEST_F(Trefferbildschirm, SchliessenInDerSucheBeendetSie)
     QCoreApplication::processEvents();
     EXPECT_FALSE(buehne.bildschirme.FormGeladen("frmTreffer"));
     EXPECT_TRUE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
+}
+
+/// A list of the worst with more than a million rows.
+class LangerBericht : public Trefferbildschirm {
+protected:
+    void sucheViele()
+    {
+        constexpr int kZiehungen = 1'660;
+        std::mt19937 zufall(49);
+        std::vector<std::string> saetze;
+        for (int i = 0; i < kZiehungen; ++i)
+            saetze.push_back("1955,41," + zufallszahlen(zufall) + "00,0");
+        schreibe("SALOTTO.DAT", saetze);
+        oeffneTreffer();
+        klicke("chkArt(1)");
+        klicke("chkArt(2)");
+        suche();
+    }
+
+private:
+    static std::string zufallszahlen(std::mt19937& zufall)
+    {
+        std::set<int> zahlen;
+        while (zahlen.size() < 6)
+            zahlen.insert(static_cast<int>(zufall() % 49) + 1);
+        std::string text;
+        for (const int zahl : zahlen)
+            text += (zahl < 10 ? "0" : "") + std::to_string(zahl) + ",";
+        return text;
+    }
+};
+
+TEST_F(LangerBericht, PasstInDieZwischenablage)
+{
+    sucheViele();
+    const qint64 anzahl = this->anzahl("lstLoser");
+    ASSERT_GT(anzahl, 1'000'000);
+    int zuege = 0;
+    buehne.pumpe.beiZug = [&zuege] { ++zuege; };
+    klicke("cmdClip");
+    buehne.pumpe.beiZug = {};
+    EXPECT_GT(zuege, 3);
+    EXPECT_TRUE(boxen().isEmpty());
+    EXPECT_GT(buehne.zwischenablage.text().count('\n'), anzahl);
+    EXPECT_TRUE(buehne.zwischenablage.text().contains("\r\n" + zeilen("lstLoser").first() + "\r\n"));
+}
+
+TEST_F(LangerBericht, DieSchlechtestenStehenImmerInSicht)
+{
+    sucheViele();
+    EXPECT_EQ(rolle("lstLoser").value(), 0);
+    klicke("cmdSortAb");
+    EXPECT_EQ(rolle("lstLoser").value(), rolle("lstLoser").maximum());
+}
+
+TEST_F(LangerBericht, LaesstSichAnhalten)
+{
+    sucheViele();
+    const QStringList vorher = zeilen("lstLoser");
+    buehne.zwischenablage.setze("vorher");
+    beimErstenZug(schirm(), [this] {
+        klicke("cmdSortAb"); // not while the lists are read
+        klicke("cmdAbbruch");
+    });
+    klicke("cmdClip");
+    EXPECT_EQ(buehne.zwischenablage.text(), "vorher");
+    EXPECT_EQ(zeilen("lstLoser"), vorher);
+    klicke("cmdSortAb");
+    EXPECT_NE(zeilen("lstLoser"), vorher);
 }
 
 TEST_F(Trefferbildschirm, InfoStehtUeberDemBildschirm)

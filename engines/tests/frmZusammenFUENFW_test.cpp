@@ -1,5 +1,8 @@
 #include "engines/screens/frmZusammenFUENFW.h"
 #include "engines/tests/Wiederholungsbuehne.h"
+#include "shell/elements/Liste.h"
+
+#include <QScrollBar>
 
 namespace {
 
@@ -129,12 +132,19 @@ TEST_F(WiederholungssucheZusammen, NenntDieSpieleInDenBerichten)
     EXPECT_EQ(buehne.zwischenablage.text(),
               "Sechserwiederholungen(Samstagslotto - Mittwochslotto - Mittwochslotto(B)):\r\n\r\n"
               " 2 mal-> 15 25 27 30 42 48\r\n\r\n\r\n");
+    const QString bericht = buehne.zwischenablage.text();
     klicke("Befehl8");
     klicke("chkArt(1)");
     klicke("chkArt(2)");
+    klicke("Befehl10");
+    EXPECT_EQ(buehne.zwischenablage.text(), bericht); // the games of the search, not those that are ticked since
     klicke("Befehl18");
     EXPECT_TRUE(buehne.zwischenablage.text().startsWith(
-        "Die Sechserwiederholungen im Detail (Samstagslotto - ):\r\n\r\nKombination: 15 25 27 30 42 48\r\n"));
+        "Die Sechserwiederholungen im Detail (Samstagslotto - Mittwochslotto - Mittwochslotto(B)):\r\n\r\n"
+        "Kombination: 15 25 27 30 42 48\r\n"));
+    klicke("Befehl6");
+    klicke("Befehl10");
+    EXPECT_TRUE(buehne.zwischenablage.text().startsWith("Sechserwiederholungen(Samstagslotto - ):\r\n"));
     buehne.zwischenablage.setze("vorher");
     klicke("Befehl19");
     EXPECT_EQ(buehne.zwischenablage.text(), "vorher");
@@ -148,6 +158,44 @@ TEST_F(WiederholungssucheZusammen, DieDetailsBleibenWennDieSpieleWechseln)
     const QStringList vorher = zeilen("Liste3");
     klicke("chkArt(0)");
     EXPECT_EQ(zeilen("Liste3"), vorher);
+}
+
+TEST_F(WiederholungssucheZusammen, DieDetailsSindDieDerDurchsuchtenZiehungen)
+{
+    oeffneKleine();
+    klicke("Befehl6");
+    klicke("chkArt(0)");
+    klicke("chkArt(2)");
+    const QStringList soll{"Kombination: 15 25 27 30 42 48", kStriche, "1986/51  15 25 27 30 42 48   So, 09.10.1955",
+                           "1986/23  15 25 27 30 42 48   Mi, 04.06.1986", kStriche};
+    waehle("Liste6", {0});
+    EXPECT_EQ(zeilen("Liste3"), soll);
+    klicke("Befehl8");
+    EXPECT_EQ(zeilen("Liste3"), soll);
+    klicke("Befehl11"); // the other list is that of another search
+    klicke("Befehl8");
+    EXPECT_EQ(zeilen("Liste3"), soll);
+}
+
+TEST_F(WiederholungssucheZusammen, DerBerichtDerNieGezogenenNenntDieDurchsuchtenSpiele)
+{
+    oeffneKleine();
+    klicke("cmdNGD");
+    klicke("chkArt(0)");
+    klicke("cmdClipNGD");
+    EXPECT_TRUE(buehne.zwischenablage.text().startsWith(
+        "Nie gezogene Dreierkombinationen (Samstagslotto - Mittwochslotto - Mittwochslotto(B)):\r\n"));
+}
+
+TEST_F(WiederholungssucheZusammen, DieHaeufigstenKommenInSicht)
+{
+    starte();
+    oeffne("frmZusammenFÜNFW");
+    for (const Wiederholungsfeld& feld : kWiederholungsfelder) {
+        klicke(feld.suchen);
+        const QScrollBar& rolle = *schirm("frmZusammenFÜNFW").findChild<Liste*>(feld.liste)->verticalScrollBar();
+        EXPECT_EQ(rolle.value(), feld.k == 6 ? 0 : rolle.maximum()) << feld.k;
+    }
 }
 
 TEST_F(WiederholungssucheZusammen, SuchtNieGezogeneDreier)

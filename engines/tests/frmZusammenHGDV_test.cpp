@@ -64,7 +64,19 @@ TEST_F(VollsuchtestZusammen, OhneSpielartBittetEsUmEine)
         EXPECT_EQ(schirm().ergebnis(), vorher);
         EXPECT_EQ(lies("Text15"), "Zweierwiederholungen");
     }
-    EXPECT_EQ(titel(), "Suche nach Wiederholungen (brute force)");
+    EXPECT_TRUE(titel().endsWith("   4 Ziehungen von 1955/41 bis 2001/02")); // those of what is still shown
+}
+
+TEST_F(VollsuchtestZusammen, DerTitelGehoertZumErgebnis)
+{
+    oeffneZusammen();
+    klicke("cmdKombiSuche(2)");
+    setze("chkArt(1)", "off");
+    EXPECT_EQ(lies("lblZ"), "Anzahl der auszuwertenden Ziehugen: 2");
+    EXPECT_TRUE(
+        titel().endsWith("Samstagslotto Mittwochslotto Mittwochslotto(B)   4 Ziehungen von 1955/41 bis 2001/02"));
+    klicke("cmdKombiSuche(2)");
+    EXPECT_TRUE(titel().endsWith("Samstagslotto Mittwochslotto(B)   2 Ziehungen von 1955/41 bis 1986/23"));
 }
 
 TEST_F(VollsuchtestZusammen, DerBerichtNenntDieSpielartenDerSuche)
@@ -80,7 +92,7 @@ TEST_F(VollsuchtestZusammen, DerBerichtNenntDieSpielartenDerSuche)
               "   2 mal -> 01 02\r\n"
               "   2 mal -> 16 23\r\n"
               "\r\n"
-              "Erfassungstand der Ziehungen: 1986/23  Mi, 04.06.1986 (B)\r\n"
+              "Erfassungstand der Ziehungen: 2001/02  Mi, 11.06.1986\r\n"
               "Anzahl der ausgewerteten Ziehungen: 4\r\n"
               "Hinweis: Falls die Spalten der Tabelle nicht ordentlich dargestellt werden, \r\n"
               "wählen sie für die Ansicht eine nichtproportionale Schriftart (z.B. Courier).\r\n");

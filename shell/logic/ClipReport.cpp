@@ -1,5 +1,11 @@
 #include "shell/logic/ClipReport.h"
 
+ClipReport& ClipReport::reserviere(std::size_t bytes)
+{
+    text_.reserve(bytes);
+    return *this;
+}
+
 ClipReport& ClipReport::spiel(std::string_view gross)
 {
     return leerzeile().zeile("*** " + std::string(gross) + " ***");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -10,6 +11,8 @@
 /// `ausgewerteteZiehungen`, the tool's result lines, `schlusshinweis`.
 class ClipReport {
 public:
+    /// Makes room for this many bytes: a report of millions of lines is not moved while it grows.
+    ClipReport& reserviere(std::size_t bytes);
     /// A line break, then "*** SAMSTAGSLOTTO ***" for the game in upper case.
     ClipReport& spiel(std::string_view gross);
     ClipReport& zeile(std::string_view text);
