@@ -106,11 +106,9 @@ QLayout* frmAlleKombis::baueListe()
     rolle_.setSmallChange(1);
     rolle_.setLargeChange(kLetzteSeite / 10000);
     new Fensterrollen(*List1, *VScroll1, kZeilenJeSeite);
-    labelInfo =
-        bezeichnung("labelInfo", "Ein Click auf eine Kombination zeigt die Gewinne detailliert in der Detailliste->");
     QLayout* fenster = zeile({dehnbar(List1), VScroll1});
     fenster->setSpacing(0);
-    return spalte({lblHeader, dehnbar(fenster), labelInfo});
+    return eng(spalte({lblHeader, dehnbar(fenster)}));
 }
 
 QLayout* frmAlleKombis::baueSuche()
@@ -126,10 +124,13 @@ QLayout* frmAlleKombis::baueSuche()
     txtV = textfeld("txtV", "12.000.000");
     cmdKombisearch = befehl("cmdKombisearch", "Start");
     Command = befehl("Command", "Start");
+    labelInfo =
+        bezeichnung("labelInfo", "Ein Click auf eine Kombination zeigt die Gewinne detailliert in der Detailliste->");
     cmdKombisearch->setToolTip("Sucht die Kombination und zeigt sie an 1.Stelle der linken Liste an.");
     Command->setToolTip("Sucht die Kombinationsnummer und zeigt sie an 1.Stelle der linken Liste an.");
     // clang-format off
     return spalte({
+        labelInfo,
         raster(3, {
             lblSZ, zeile({ComboSZ, luecke()}), luecke(),
             lblS[0], Text1, cmdKombisearch,

@@ -1,5 +1,6 @@
 #include "engines/logic/KombinationAusNummer.h"
 #include "engines/logic/Trefferliste.h"
+#include "engines/screens/Trefferdetails.h"
 #include "engines/screens/frmAlleKombis.h"
 #include "engines/tests/Suchtest.h"
 #include "listcontrol/screens/ListView.h"
@@ -9,6 +10,7 @@
 #include "testhilfen/ZaehlerReferenz.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -43,7 +45,15 @@ protected:
 
     frmAlleKombis& schirm() const { return dynamic_cast<frmAlleKombis&>(*buehne.bildschirme.geladen("frmAlleKombis")); }
     QStringList seite() { return bedienung.zeilen("List1", 0, 1000).zeilen; }
-    QStringList details() { return bedienung.zeilen("ListView1", 0, 1000000).zeilen; }
+    /// The rows of the detail list, once a long one is whole.
+    QStringList details()
+    {
+        const auto& faelle = dynamic_cast<Trefferdetails&>(*schirm().findChild<QWidget*>("FrameDetail")).faelle();
+        const auto& liste = *schirm().findChild<ListView*>("ListView1");
+        while (liste.ItemCount() < static_cast<int>(faelle.size()))
+            QCoreApplication::processEvents();
+        return bedienung.zeilen("ListView1", 0, 1000000).zeilen;
+    }
     QStringList farben(int zeile) { return bedienung.farben("ListView1", zeile).zeilen.value(0).split('\t'); }
     QStringList gewaehlte() { return bedienung.gewaehlte("List1").zeilen; }
     int ersteNummer() { return seite().value(0).left(10).remove('.').toInt(); }
@@ -75,6 +85,27 @@ protected:
         QCoreApplication::sendEvent(flaeche, &rad);
     }
 };
+
+TEST_F(AlleKombisBildschirm, PasstMitFensterrahmenAufDenKleinstenSchirm)
+{
+    oeffneSchirm();
+    EXPECT_LE(schirm().minimumSizeHint().width(), 1280 - 12);
+    EXPECT_LE(schirm().minimumSizeHint().height(), 800 - 40);
+}
+
+TEST_F(AlleKombisBildschirm, OhneEineDateiZaehltKeineZiehung)
+{
+    starte();
+    QFile::remove(ordner.filePath("MALOTTO.DAT"));
+    oeffne("frmAlleKombis");
+    EXPECT_EQ(boxen().size(), 1);
+    EXPECT_EQ(lies("lblTipp"), "Anzahl der auszuwertenden Ziehugen: 0");
+    EXPECT_TRUE(seite().first().endsWith("GF: 000"));
+    waehle("List1", {0});
+    EXPECT_EQ(lies("lblDetail"), "Anzahl der Gewinnfälle: 0");
+    klicke("chkArt(1)");
+    EXPECT_FALSE(seite().first().endsWith("GF: 000"));
+}
 
 TEST_F(AlleKombisBildschirm, OeffnetMitDerErstenSeite)
 {

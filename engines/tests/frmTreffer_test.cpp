@@ -118,8 +118,15 @@ TEST_F(Trefferbildschirm, FehlendeDateiWirdEinmalGemeldet)
     boxen();
     oeffne("frmTreffer");
     EXPECT_EQ(boxen().size(), 1);
-    EXPECT_EQ(lies("lblZ(0)"), "-");
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(lies(QString("lblZ(%1)").arg(i)), "-");
     EXPECT_TRUE(titel().startsWith("Suche nach Kombinationen"));
+    suche();
+    EXPECT_EQ(lies("lblTipp"), "Anzahl der auszuwertenden Ziehungen: 0");
+    EXPECT_EQ(schirm().ergebnis().AnzahlZiehungen, 0U);
+    klicke("chkArt(1)");
+    suche();
+    EXPECT_GT(schirm().ergebnis().AnzahlZiehungen, 0U);
 }
 
 TEST_F(Trefferbildschirm, OhneSpielartSindDieSchwellenNull)

@@ -2,6 +2,7 @@
 #include "engines/tests/Wiederholungsbuehne.h"
 #include "shell/elements/Liste.h"
 
+#include <QFile>
 #include <QScrollBar>
 
 namespace {
@@ -84,6 +85,28 @@ TEST_F(WiederholungssucheZusammen, OhneSpielartKommtEineBitte)
     EXPECT_EQ(zeilen("Liste7"), vorher);
     EXPECT_EQ(lies("txtH"), zusammenfassung);
     EXPECT_TRUE(zeilen("lstNGD").isEmpty());
+}
+
+TEST_F(WiederholungssucheZusammen, OhneEineDateiZaehltKeineZiehung)
+{
+    starte();
+    QFile::remove(ordner.filePath("MBLOTTO.DAT"));
+    oeffne("frmZusammenFÜNFW");
+    EXPECT_EQ(boxen().size(), 1);
+    EXPECT_EQ(lies("lblTipp"), "Anzahl der auszuwertenden Ziehugen: 0");
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(lies(QString("lblZ(%1)").arg(i)), "-");
+    klicke("Befehl11");
+    EXPECT_TRUE(zeilen("Liste7").isEmpty());
+    EXPECT_TRUE(lies("txtH").contains("noch nie gezogene: 1176\n"));
+    klicke("Befehl13");
+    EXPECT_TRUE(zeilen("Liste3").isEmpty());
+    klicke("cmdNGD");
+    EXPECT_EQ(lies("lblNGD"), "18424");
+    klicke("chkArt(2)");
+    klicke("Befehl11");
+    EXPECT_EQ(zeilen("Liste7"), sollzeilen(2, kAlleSpielarten));
+    EXPECT_FALSE(zeilen("Liste7").isEmpty());
 }
 
 TEST_F(WiederholungssucheZusammen, LaesstSichNichtAnhalten)

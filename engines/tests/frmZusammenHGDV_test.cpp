@@ -2,6 +2,8 @@
 #include "engines/tests/Suchtest.h"
 #include "testhilfen/VollsucheReferenz.h"
 
+#include <QFile>
+
 #include <functional>
 
 namespace {
@@ -112,6 +114,22 @@ TEST_F(VollsuchtestZusammen, WaehrendDesLaufsBleibenDieSpielarten)
     buehne.pumpe.beiZug = {};
     EXPECT_EQ(zug, 1176);
     EXPECT_TRUE(bedienbar("chkArt(0)"));
+}
+
+TEST_F(VollsuchtestZusammen, OhneEineDateiZaehltKeineZiehung)
+{
+    starte();
+    QFile::remove(ordner.filePath("MALOTTO.DAT"));
+    oeffne("frmZusammenHGDV");
+    EXPECT_EQ(boxen().size(), 1);
+    EXPECT_EQ(lies("lblZ"), "Anzahl der auszuwertenden Ziehugen: 0");
+    klicke("cmdKombiSuche(2)");
+    EXPECT_EQ(schirm().ergebnis().NieGezogen, 1176);
+    klicke("Befehl6");
+    setze("chkArt(1)", "off");
+    klicke("cmdKombiSuche(2)");
+    EXPECT_EQ(schirm().ergebnis(), sucheEinfach(buehne.archiv, 2));
+    EXPECT_EQ(schirm().ergebnis().EinmalGezogen, 30);
 }
 
 TEST_F(VollsuchtestZusammen, DreiLeereDateien)
