@@ -30,7 +30,7 @@ namespace {
 
 constexpr auto kTitel = "Neue Ziehungen eingeben (Aktualisieren), gespeicherte Ziehungen anzeigen.";
 constexpr int kJahreZurWahl = 101;
-constexpr int kAblaufbreite = 780;
+constexpr int kAblaufbreite = 840;
 
 QString spielname(std::int16_t spielart)
 {

@@ -62,11 +62,13 @@ frmlana::frmlana(Umgebung& umgebung)
     auto* Befehl5 = befehl("Befehl5", "Word&pad");
     Befehl5->setShortcut({}); // Alt+P checks
     auto* Befehl6 = befehl("Befehl6", "&Info");
+    Liste1->setzeSichtbar(12, 92);
     Liste2->modell().fuelle({kStrukturfehler.begin(), kStrukturfehler.end()});
     Liste2->setzeSichtbar(8, 84);
     Liste3->modell().fuelle(kFormat);
     Liste3->setzeSichtbar(static_cast<int>(kFormat.size()), 66);
-    zeigeFehlertabelle(false);
+    Liste2->hide();
+    behaltePlatz(Liste2);
     alsUeberschrift(Bezeichnung1);
 
     // clang-format off
@@ -75,8 +77,8 @@ frmlana::frmlana(Umgebung& umgebung)
         zeile({Befehl2, Label1, Bezeichnung6, luecke(), Bezeichnung3}),
         Bezeichnung2,
         dehnbar(Liste1, 2),
-        dehnbar(Liste2),
         zeile({Bezeichnung4, luecke(), Bezeichnung5}),
+        dehnbar(Liste2),
         zeile({Befehl3, Befehl4, Befehl5, Befehl6, luecke(), Befehl1}),
     }));
     // clang-format on
@@ -99,18 +101,11 @@ frmlana::frmlana(Umgebung& umgebung)
     Liste1->beiAuswahl = [this] { zeigeFehler(); };
 }
 
-/// The table takes its room from the list above it, so that the window stays as large as it is.
-void frmlana::zeigeFehlertabelle(bool zeigen)
-{
-    Liste1->setzeSichtbar(zeigen ? 12 : 21, 92);
-    Liste2->setVisible(zeigen);
-}
-
 void frmlana::leereErgebnis()
 {
     ergebnis_ = {};
     Liste1->modell().Clear();
-    zeigeFehlertabelle(false);
+    Liste2->hide();
     Bezeichnung4->setText(kKorrekte);
     Bezeichnung5->setText(kFalsche);
     Bezeichnung6->clear();
@@ -153,7 +148,7 @@ void frmlana::zeigeFehler()
 {
     const std::ptrdiff_t zeile = Liste1->modell().ListIndex();
     const int nummer = fehlernummer(Liste1->modell().List(static_cast<std::size_t>(zeile)));
-    zeigeFehlertabelle(true);
+    Liste2->show();
     Liste2->modell().SetListIndex(nummer > 0 ? nummer : ListenModell::kKeiner);
     if (nummer > 0)
         Liste2->zeigeZeile(nummer);

@@ -17,7 +17,6 @@ private:
     void leereErgebnis();
     void zeigeErgebnis();
     void zeigeFehler();
-    void zeigeFehlertabelle(bool zeigen);
     /// `meldung` is shown in front of the file name where there is no editor.
     void oeffneEditor(const QString& meldung);
 
