@@ -263,11 +263,14 @@ void frmAnzeige::frischeAuf()
     zeigeZiehung(archiv.AnzahlZiehungen);
 }
 
+/// While a file is being loaded or is missing, the archive holds fewer draws than the list has rows.
 void frmAnzeige::fuelleListe()
 {
     const ZiehungsArchiv& archiv = umgebung().archiv;
-    Liste1->modell().aufAnfrage(static_cast<std::size_t>(archiv.AnzahlZiehungen),
-                                [&archiv](std::size_t zeile) { return listenzeile(archiv, zeile + 1); });
+    const auto anzahl = [&archiv] { return static_cast<std::size_t>(archiv.AnzahlZiehungen); };
+    Liste1->modell().aufAnfrage(anzahl(), [&archiv, anzahl](std::size_t zeile) {
+        return zeile < anzahl() ? listenzeile(archiv, zeile + 1) : std::string();
+    });
 }
 
 void frmAnzeige::zeigeZiehung(int nr)
@@ -277,6 +280,8 @@ void frmAnzeige::zeigeZiehung(int nr)
         Texte->leere();
         lblDate->clear();
         bezeichnung23->setText("Ziehung 0  (von 0 gespeicherten)");
+        if (chkTippfeld->isChecked())
+            leereEingabe();
         return;
     }
     const auto stelle = static_cast<std::size_t>(nr);

@@ -166,6 +166,33 @@ TEST_F(Anzeigebildschirm, DieFelderDerGezeigtenZiehungSindNurZumLesen)
     EXPECT_EQ(feld("Label6(1)")->window()->focusWidget(), feld("Label6(1)")->parentWidget()) << "the entry comes first";
 }
 
+TEST_F(Anzeigebildschirm, VonEinerDateiDieNichtMehrLaedtBleibtNichtsStehen)
+{
+    starte();
+    oeffneAm(kFreitag);
+    setze("chkTippfeld", "on");
+    const QString zelle = QString("Label6(%1)").arg(buehne.archiv.z1[1]);
+    setze("HBildlauf1", "1");
+    EXPECT_TRUE(zustand(zelle).contains("bold=true"));
+    schreibe("SALOTTO.DAT", {"kaputt"});
+    klicke("cmdNotepad");
+    klicke("Befehl9");
+    EXPECT_EQ(lies("bezeichnung23"), "Ziehung 0  (von 0 gespeicherten)");
+    EXPECT_EQ(lies("Text1"), "");
+    EXPECT_TRUE(zustand(zelle).contains("bold=false"));
+    EXPECT_EQ(letzteZeile(), -1);
+}
+
+TEST_F(Anzeigebildschirm, DieListeHaeltEinArchivAusDasKleinerGewordenIst)
+{
+    starte();
+    oeffneAm(kFreitag);
+    buehne.archiv.AnzahlZiehungen = 2;
+    buehne.archiv.jjjj.resize(3);
+    EXPECT_TRUE(bedienung.zeilen("Liste1", 1, 1).zeilen.value(0).startsWith("0002    "));
+    EXPECT_EQ(bedienung.zeilen("Liste1", 2, 1).zeilen, QStringList(""));
+}
+
 TEST_F(Anzeigebildschirm, DerKnopfZumSpeichernBleibtBeiDerEingabe)
 {
     starte();
