@@ -82,11 +82,11 @@ void Vollsuchbildschirm::baueStart()
 void Vollsuchbildschirm::baueErgebnis()
 {
     Liste3 = liste("Liste3", {.Sorted = true});
-    Liste3->setzeSichtbar(26, 32);
+    Liste3->setzeSichtbar(26, 30);
     Befehl6 =
         clipBefehl("Befehl6", [this] { return wiederholungsbericht(quelle_, ergebnis_.groesse, wiederholungen()); });
     Befehl6->setText("&ClipBoard");
-    txtH = new Textanzeige("txtH", 7, 34, this);
+    txtH = new Textanzeige("txtH", 7, 32, this);
     txtH->zeige(leereZusammenfassung());
     Bezeichnung8 = bezeichnung("Bezeichnung8", "Noch nie gezogene Dreierkombinationen:");
     Liste1 = liste("Liste1");
