@@ -1,36 +1,30 @@
 #include "archive/screens/frmAnzeige.h"
 
+#include "archive/screens/Ablauftext.h"
 #include "archive/screens/AnzeigeTexte.h"
 #include "archive/screens/Editor.h"
 #include "archive/screens/Spielartlader.h"
+#include "archive/screens/Ziehungseingabe.h"
 #include "archive/screens/Ziehungsfelder.h"
 #include "archive/screens/Ziehungsspeicher.h"
 #include "shell/elements/Infotafel.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
-#include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTextDocument>
-#include <QTextEdit>
 
-#include <cmath>
-#include <memory>
 #include <optional>
 
 namespace {
 
 constexpr auto kTitel = "Neue Ziehungen eingeben (Aktualisieren), gespeicherte Ziehungen anzeigen.";
-constexpr int kJahreZurWahl = 101;
-constexpr int kAblaufbreite = 840;
 
 QString spielname(std::int16_t spielart)
 {
@@ -38,38 +32,6 @@ QString spielname(std::int16_t spielart)
         return "SAMSTAGSLOTTO 6 aus 49";
     return spielart == Mittwochslotto ? "MITTWOCHSLOTTO 6 aus 49" : "MITTWOCHSLOTTO(B) 6 aus 49";
 }
-
-QString zweistellig(int zahl)
-{
-    return qt(Format(zahl, "00"));
-}
-
-/// What the user has typed as a Spieljahr; nothing unless it has four digits.
-std::optional<int> spieljahr(const QString& eingabe)
-{
-    const int jahr = eingabe.toInt();
-    return eingabe.size() == 4 && jahr >= 1000 ? std::optional(jahr) : std::nullopt;
-}
-
-/// A text to read, as high as it is long.
-class Ablauftext final : public QTextEdit {
-public:
-    Ablauftext()
-    {
-        setObjectName("Text11");
-        setReadOnly(true);
-        setTabChangesFocus(true);
-        setPlainText(AnzeigeTexte::kAblauf);
-    }
-
-    QSize sizeHint() const override
-    {
-        const std::unique_ptr<QTextDocument> text(document()->clone());
-        text->setTextWidth(kAblaufbreite);
-        return QSize(kAblaufbreite, static_cast<int>(std::ceil(text->size().height()))) +
-               QSize(2 * frameWidth(), 2 * frameWidth());
-    }
-};
 
 } // namespace
 
@@ -90,7 +52,7 @@ frmAnzeige::frmAnzeige(Umgebung& umgebung) : Bildschirm(umgebung, "frmAnzeige", 
     }));
     // clang-format on
     verbinde();
-    Label6->setFocus();
+    Eingabe->setFocus();
 }
 
 void frmAnzeige::baueAnzeige()
@@ -115,31 +77,7 @@ void frmAnzeige::baueAnzeige()
 
 void frmAnzeige::baueEingabe()
 {
-    Label6 = new Tippfeld7x7View("Label6", Tippfeld7x7View::Art::FreieEingabe, this);
-    Bloecke zahlen;
-    const auto zahlenfeld = [this, &zahlen](const QString& kopf, QLabel* feld) {
-        feld->setAlignment(Qt::AlignCenter);
-        feld->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-        feld->setMinimumWidth(30);
-        QLabel* ueberschrift = bezeichnung("lblKopf" + kopf, kopf);
-        ueberschrift->setAlignment(Qt::AlignCenter);
-        zahlen.push_back(eng(spalte({ueberschrift, feld})));
-    };
-    feld(lblZ, "lblZ", ab(1));
-    for (std::size_t i = 0; i < lblZ.size(); ++i)
-        zahlenfeld(QString("Z%1").arg(i + 1), lblZ[i]);
-    lblSZ = bezeichnung("lblSZ");
-    zahlenfeld("SZ", lblSZ);
-
-    cmbSZ = kombi("cmbSZ");
-    for (int superzahl = 0; superzahl <= 9; ++superzahl)
-        cmbSZ->addItem(QString::number(superzahl));
-    cmbSZ->setCurrentIndex(-1);
-    Kombi1 = kombi("Kombi1");
-    Kombi1->setEditable(true);
-    Kombi2 = kombi("Kombi2");
-    for (int woche = 1; woche <= 53; ++woche)
-        Kombi2->addItem(zweistellig(woche));
+    Eingabe = new Ziehungseingabe(this);
     Bezeichnung13 = bezeichnung("Bezeichnung13");
     Bezeichnung2 = bezeichnung("Bezeichnung2");
     lblArt = bezeichnung("lblArt");
@@ -163,13 +101,7 @@ void frmAnzeige::baueEingabe()
         lblArt,
         Befehl7,
         zeile({dehnbar(Befehl10), Befehl11}),
-        zeile({luecke(), Label6, luecke()}),
-        zeile(zahlen),
-        formular({
-            {bezeichnung("lblSuperzahl", "Superzahl auswählen:"), cmbSZ},
-            {bezeichnung("lblSpieljahr", "Spieljahr:"), Kombi1},
-            {bezeichnung("lblSpielwoche", "Spielwoche:"), Kombi2},
-        }),
+        Eingabe,
         zeile({dehnbar(Befehl8), cmdClear}),
     }));
     // clang-format on
@@ -199,13 +131,9 @@ void frmAnzeige::verbinde()
     connect(HBildlauf1, &QScrollBar::valueChanged, this, [this](int nr) { zeigeZiehung(nr); });
     Liste1->beiAuswahl = [this] { HBildlauf1->setValue(static_cast<int>(Liste1->modell().ListIndex()) + 1); };
     connect(chkTippfeld, &QCheckBox::clicked, this, [this] { schalteTippmuster(); });
-    connect(cmbSZ, &QComboBox::currentIndexChanged, this, [this] { zeigeSuperzahl(); });
-    Label6->beiKlick = [this](int) {
-        chkTippfeld->setChecked(false);
-        zeigeZahlen();
-        zeigeSuperzahl();
-    };
-    bei(cmdClear, [this] { leereEingabe(); });
+    Eingabe->beiKlick = [this] { chkTippfeld->setChecked(false); };
+    Eingabe->beiAenderung = [this] { Befehl8->setEnabled(Eingabe->vollstaendig()); };
+    bei(cmdClear, [this] { Eingabe->leere(); });
     bei(Befehl1, [this] { schliesse(); });
     bei(Befehl2, [this] { zeigeInfo(); });
     Frame1->beimWeglegen = [this] { Rahmen1->show(); };
@@ -245,12 +173,7 @@ void frmAnzeige::frischeAuf()
     setzeHinweis(cmdNotepad, "Korrigieren oder Aktualisieren der Datei " + dateiname() + " mit Notepad.exe");
     setzeHinweis(Befehl3, "Korrigieren oder Aktualisieren der Datei " + dateiname() + " mit MS-Write");
 
-    const Vorschlag vorschlag = naechsteZiehung(archiv);
-    Kombi1->clear();
-    for (int weiter = 1; weiter <= kJahreZurWahl; ++weiter)
-        Kombi1->addItem(qt(Format(letztesSpieljahr(archiv) + weiter, "0000")));
-    Kombi1->setCurrentText(qt(Format(vorschlag.jjjj, "0000")));
-    Kombi2->setCurrentText(zweistellig(vorschlag.sw));
+    Eingabe->schlageVor(archiv);
     Bezeichnung2->setText(
         QString(" Gespeicherte Ziehungen von %1 bis %2 -")
             .arg(istSamstag(archiv.Spielart) ? "1955/41" : "1986/23", qt(jahrUndWoche(archiv, letzte))));
@@ -281,7 +204,7 @@ void frmAnzeige::zeigeZiehung(int nr)
         lblDate->clear();
         bezeichnung23->setText("Ziehung 0  (von 0 gespeicherten)");
         if (chkTippfeld->isChecked())
-            leereEingabe();
+            Eingabe->leere();
         return;
     }
     const auto stelle = static_cast<std::size_t>(nr);
@@ -291,73 +214,29 @@ void frmAnzeige::zeigeZiehung(int nr)
     Liste1->modell().SetListIndex(nr - 1);
     Liste1->zeigeZeile(nr - 1);
     if (chkTippfeld->isChecked())
-        zeigeImTippfeld(stelle);
-}
-
-void frmAnzeige::zeigeImTippfeld(std::size_t nr)
-{
-    Tippfeld7x7 tippfeld;
-    tippfeld.zeige(umgebung().archiv.gewinnzahlen(nr));
-    Label6->zeige(tippfeld);
-    const QString superzahl = qt(superzahlText(umgebung().archiv, nr));
-    const QSignalBlocker stumm(cmbSZ);
-    cmbSZ->setCurrentIndex(cmbSZ->findText(superzahl));
-    lblSZ->setText(superzahl);
+        Eingabe->zeige(archiv, stelle);
 }
 
 void frmAnzeige::schalteTippmuster()
 {
-    leereEingabe();
+    Eingabe->leere();
     if (chkTippfeld->isChecked())
         zeigeZiehung(HBildlauf1->value());
 }
 
-void frmAnzeige::zeigeZahlen()
-{
-    const std::vector<int> zahlen = Label6->modell().gewaehlte();
-    for (std::size_t i = 0; i < lblZ.size(); ++i)
-        lblZ[i]->setText(i < zahlen.size() ? QString::number(zahlen[i]) : QString());
-}
-
-/// The numbers of a draw that is only shown stand in the grid alone, so that they cannot be saved a second time.
-void frmAnzeige::zeigeSuperzahl()
-{
-    lblSZ->setText(cmbSZ->currentText());
-    Befehl8->setEnabled(!lblZ.back()->text().isEmpty() && cmbSZ->currentIndex() >= 0);
-}
-
-void frmAnzeige::leereEingabe()
-{
-    Label6->zeige({});
-    zeigeZahlen();
-    cmbSZ->setCurrentIndex(-1);
-    zeigeSuperzahl();
-}
-
-NeueZiehung frmAnzeige::eingabe() const
-{
-    NeueZiehung ziehung;
-    ziehung.jjjj = spieljahr(Kombi1->currentText()).value_or(0);
-    ziehung.sw = Kombi2->currentText().toInt();
-    const std::vector<int> zahlen = Label6->modell().gewaehlte();
-    std::copy_n(zahlen.begin(), std::min(zahlen.size(), ziehung.zahlen.size()), ziehung.zahlen.begin());
-    ziehung.superzahl = cmbSZ->currentIndex();
-    return ziehung;
-}
-
 void frmAnzeige::speichere()
 {
-    const NeueZiehung ziehung = eingabe();
-    if (ziehung.jjjj == 0) {
+    const std::optional<NeueZiehung> ziehung = Eingabe->ziehung();
+    if (!ziehung) {
         umgebung().boxen.info("Lotto-Nachricht", "Jahreszahlen 4-stellig eingeben !");
         return;
     }
     const QString datei = dateiname();
-    if (!speichereZiehung(umgebung(), ziehung, Bezeichnung13->text()))
+    if (!speichereZiehung(umgebung(), *ziehung, Bezeichnung13->text()))
         return;
     frischeAuf();
-    leereEingabe();
-    Label6->setFocus();
+    Eingabe->leere();
+    Eingabe->setFocus();
     umgebung().boxen.info(kInfotitel,
                           "Die Gewinnzahlen der letzten Spielwoche wurden in Datei " + datei + " gespeichert !");
 }

@@ -111,6 +111,30 @@ TEST_F(ElementBaustein, DieInfotafelStehtUeberDemBildschirmBisOk)
     EXPECT_FALSE(sichtbar("Infotafel"));
 }
 
+TEST_F(ElementBaustein, DieInfotafelZeigtIhrenTitelUndMeldetDasWeglegen)
+{
+    Infotafel* tafel = nullptr;
+    int weggelegt = 0;
+    Bildschirm& bildschirm = zeige([&](Rohbau& rohbau) {
+        tafel = new Infotafel(&rohbau, "Erklärung", {.rahmen = "Rahmen1", .titel = "Info"});
+        tafel->beimWeglegen = [&weggelegt] { ++weggelegt; };
+        auto* flaeche = rohbau.bezeichnung("Bezeichnung1", "Text");
+        flaeche->setMinimumSize(600, 300);
+        return spalte({flaeche});
+    });
+    tafel->zeige();
+    EXPECT_EQ(lies("Rahmen1"), "Info");
+    EXPECT_EQ(lies("InfotafelTitel"), "Info");
+    bildschirm.hide();
+    bildschirm.show();
+    EXPECT_EQ(weggelegt, 0) << "the frame has only gone with its screen";
+    tippe("InfotafelOk", "Esc");
+    EXPECT_EQ(weggelegt, 1);
+    tafel->zeige();
+    klicke("InfotafelOk");
+    EXPECT_EQ(weggelegt, 2);
+}
+
 TEST_F(ElementBaustein, DieInfotafelPasstAuchAufEinenKleinenBildschirm)
 {
     Infotafel* tafel = nullptr;
