@@ -1,8 +1,7 @@
 #include "engines/logic/KombinationAusNummer.h"
 #include "engines/logic/Trefferliste.h"
-#include "engines/screens/Trefferdetails.h"
 #include "engines/screens/frmAlleKombis.h"
-#include "engines/tests/Suchtest.h"
+#include "engines/tests/Treffertest.h"
 #include "listcontrol/screens/ListView.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Utf8.h"
@@ -22,7 +21,7 @@ constexpr auto kAnzahlFalsch =
 constexpr auto kZahlFalsch =
     "info|Tombrix|Falsche Zahleneingabe. Die einzelnen Zahlen müssen grösser 1 und kleiner 49 sein.";
 
-class AlleKombisBildschirm : public Suchtest {
+class AlleKombisBildschirm : public Treffertest {
 protected:
     void oeffneSchirm()
     {
@@ -45,15 +44,7 @@ protected:
 
     frmAlleKombis& schirm() const { return dynamic_cast<frmAlleKombis&>(*buehne.bildschirme.geladen("frmAlleKombis")); }
     QStringList seite() { return bedienung.zeilen("List1", 0, 1000).zeilen; }
-    /// The rows of the detail list, once a long one is whole.
-    QStringList details()
-    {
-        const auto& faelle = dynamic_cast<Trefferdetails&>(*schirm().findChild<QWidget*>("FrameDetail")).faelle();
-        const auto& liste = *schirm().findChild<ListView*>("ListView1");
-        while (liste.ItemCount() < static_cast<int>(faelle.size()))
-            QCoreApplication::processEvents();
-        return bedienung.zeilen("ListView1", 0, 1000000).zeilen;
-    }
+    QStringList details() { return Treffertest::details(schirm()); }
     QStringList farben(int zeile) { return bedienung.farben("ListView1", zeile).zeilen.value(0).split('\t'); }
     QStringList gewaehlte() { return bedienung.gewaehlte("List1").zeilen; }
     int ersteNummer() { return seite().value(0).left(10).remove('.').toInt(); }
