@@ -2,6 +2,8 @@
 
 #include <QRadioButton>
 
+#include <algorithm>
+
 Menueersatz::Menueersatz(Umgebung& umgebung, std::function<void(std::int16_t)> lade)
     : Bildschirm(umgebung, "frmLSTART", "Lotto-Auswahlmenü"),
       lade_(std::move(lade))
@@ -26,4 +28,10 @@ Menueersatz::~Menueersatz()
 void Menueersatz::waehleSpielart(std::int16_t spielart)
 {
     optionen_.at(static_cast<std::size_t>(spielart) - 1)->click();
+}
+
+std::int16_t Menueersatz::gewaehlteSpielart() const
+{
+    const auto* gewaehlte = std::ranges::find_if(optionen_, &QRadioButton::isChecked);
+    return gewaehlte == optionen_.end() ? 0 : static_cast<std::int16_t>(gewaehlte - optionen_.begin() + 1);
 }

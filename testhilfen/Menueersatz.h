@@ -11,6 +11,7 @@ public:
     ~Menueersatz() override;
 
     void waehleSpielart(std::int16_t spielart) override;
+    std::int16_t gewaehlteSpielart() const override;
     void zeigeWieder() override { show(); }
     bool kehrtZumMenueZurueck() const override { return false; }
 

@@ -131,7 +131,8 @@ void frmOnline::starte(Onlineaufgabe aufgabe)
         melde({"", "Bitte ein gültiges, vorhandenes Verzeichnis angeben."});
         return;
     }
-    waehle(aufgabe);
+    if (aufgabe != Onlineaufgabe::Zip)
+        waehle(spielartVon(aufgabe));
     sperre(true);
     if (!uebertrage(aktualisierung, aufgabe))
         return;
@@ -139,17 +140,14 @@ void frmOnline::starte(Onlineaufgabe aufgabe)
     cmdStart.at(static_cast<std::size_t>(aufgabe))->setFocus();
 }
 
-/// The game of the task becomes the one of the menu. A missing file is no reason for a box here: it may be what the
-/// user has come to fetch.
-void frmOnline::waehle(Onlineaufgabe aufgabe)
+/// Loads a game, which becomes the one of the menu. False if its file is missing: that is no reason for a box here, it
+/// may be what the user has come to fetch.
+bool frmOnline::waehle(std::int16_t spielart)
 {
-    const std::int16_t spielart = spielartVon(aufgabe);
-    if (aufgabe == Onlineaufgabe::Zip || !gibtZiehungsdatei(umgebung().archiv.ProgrammVerzeichnis, spielart))
-        return;
-    if (umgebung().menue)
-        umgebung().menue->waehleSpielart(spielart);
-    else
-        ladeSpielart(umgebung(), spielart);
+    if (!gibtZiehungsdatei(umgebung().archiv.ProgrammVerzeichnis, spielart))
+        return false;
+    umgebung().menue->waehleSpielart(spielart);
+    return true;
 }
 
 /// False if the new file was rejected: then the start buttons stay disabled.
@@ -172,8 +170,7 @@ bool frmOnline::uebertrage(Onlineaktualisierung& aktualisierung, Onlineaufgabe a
 
 void frmOnline::zeigeErfolg(Onlineaufgabe aufgabe)
 {
-    waehle(aufgabe);
-    if (umgebung().archiv.AnzahlZiehungen > 0)
+    if (waehle(spielartVon(aufgabe)) && umgebung().archiv.AnzahlZiehungen > 0)
         melde(erfolgsmeldung(umgebung().archiv));
 }
 
@@ -254,17 +251,19 @@ bool frmOnline::warte(std::chrono::milliseconds gewartet)
     return !gestoppt();
 }
 
-/// The game of the menu's option, its archive and the option agree again.
+/// The menu's option, the Spielart and the archive agree again. Without an option of one game the Spielart stays.
 void frmOnline::beimSchliessen()
 {
     dl.StopDownload(true);
-    const std::int16_t spielart = std::max<std::int16_t>(umgebung().archiv.Spielart, Samstagslotto);
-    if (!gibtZiehungsdatei(umgebung().archiv.ProgrammVerzeichnis, spielart)) {
-        umgebung().archiv.AnzahlZiehungen = 0;
+    if (!umgebung().menue)
         return;
-    }
-    if (umgebung().menue)
-        umgebung().menue->waehleSpielart(spielart);
+    ZiehungsArchiv& archiv = umgebung().archiv;
+    const std::int16_t gewaehlte = umgebung().menue->gewaehlteSpielart();
+    archiv.Spielart = gewaehlte != SpielartStart ? gewaehlte : std::max<std::int16_t>(archiv.Spielart, Samstagslotto);
+    if (!gibtZiehungsdatei(archiv.ProgrammVerzeichnis, archiv.Spielart))
+        archiv.AnzahlZiehungen = 0;
+    else if (gewaehlte != SpielartStart)
+        umgebung().menue->waehleSpielart(gewaehlte);
     else
-        ladeSpielart(umgebung(), spielart);
+        ladeSpielart(umgebung(), archiv.Spielart);
 }

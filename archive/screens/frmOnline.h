@@ -23,7 +23,7 @@ protected:
 private:
     void baueFelder();
     void starte(Onlineaufgabe aufgabe);
-    void waehle(Onlineaufgabe aufgabe);
+    bool waehle(std::int16_t spielart);
     bool uebertrage(Onlineaktualisierung& aktualisierung, Onlineaufgabe aufgabe);
     void zeigeErfolg(Onlineaufgabe aufgabe);
     void setzeAnzeigeZurueck();

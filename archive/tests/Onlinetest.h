@@ -6,6 +6,11 @@
 #include <QDir>
 #include <QFile>
 
+/// The box about a rejected file.
+inline constexpr auto kAbgewiesen =
+    "info|Tombrix|Fehler: Die vom Server geladene Datei ist fehlerhaft oder ist älter als die Ziehungsdatei auf ihrem "
+    "Rechner! Ihre Ziehungsdatei wird wieder hergestellt.";
+
 /// The screen of the online update against a server on this machine.
 class Onlinetest : public Archivbildschirmtest {
 protected:

@@ -1,4 +1,5 @@
 #include "archive/screens/Fortschrittsfeld.h"
+#include "archive/screens/Spielartlader.h"
 #include "archive/tests/Onlinetest.h"
 #include "shell/elements/Bildschirm.h"
 #include "testhilfen/Kindprozess.h"
@@ -11,10 +12,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-
-constexpr auto kAbgewiesen =
-    "info|Tombrix|Fehler: Die vom Server geladene Datei ist fehlerhaft oder ist älter als die Ziehungsdatei auf ihrem "
-    "Rechner! Ihre Ziehungsdatei wird wieder hergestellt.";
 
 /// Milliseconds after which the client would give up by itself.
 constexpr int kGeduldDesClients = 30'000;
@@ -117,6 +114,28 @@ TEST_F(Online, HoltDenMittwochUndStelltDasMenueDarauf)
     schliesse();
     EXPECT_TRUE(zustand("Option2").contains("checked=true"));
     EXPECT_EQ(buehne.archiv.Spielart, Mittwochslotto);
+}
+
+TEST_F(Online, SchliessenLaedtDasSpielDerOptionDesMenues)
+{
+    oeffneOnline();
+    ladeSpielart(buehne.umgebung, MittwochslottoB); // as another screen may have left it
+    schliesse();
+    EXPECT_TRUE(zustand("Option1").contains("checked=true"));
+    EXPECT_EQ(buehne.archiv.Spielart, Samstagslotto);
+    EXPECT_EQ(static_cast<std::int32_t>(buehne.archiv.jjjj.size()) - 1, buehne.archiv.AnzahlZiehungen);
+    EXPECT_EQ(buehne.archiv.jjjj.at(1), 1955);
+}
+
+TEST_F(Online, SchliessenOhneDieDateiDerOptionLaesstKeineAnderenZiehungen)
+{
+    oeffneOnline();
+    ladeSpielart(buehne.umgebung, MittwochslottoB);
+    QFile::remove(ordner.filePath("SALOTTO.DAT"));
+    schliesse();
+    EXPECT_EQ(boxen(), QStringList());
+    EXPECT_EQ(buehne.archiv.Spielart, Samstagslotto);
+    EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 0);
 }
 
 TEST_F(Online, WaehrendDerUebertragungSindDieStartknoepfeGesperrt)

@@ -179,6 +179,15 @@ void frmLSTART::waehleSpielart(std::int16_t spielart)
     ladeArchiv(spielart);
 }
 
+std::int16_t frmLSTART::gewaehlteSpielart() const
+{
+    if (Option1->isChecked())
+        return Samstagslotto;
+    if (Option2->isChecked())
+        return Mittwochslotto;
+    return Option3->isChecked() ? MittwochslottoB : SpielartStart;
+}
+
 void frmLSTART::ladeArchiv(std::int16_t spielart)
 {
     wechsel_->setCurrentIndex(0);

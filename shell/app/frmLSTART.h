@@ -15,6 +15,7 @@ public:
     ~frmLSTART() override;
 
     void waehleSpielart(std::int16_t spielart) override;
+    std::int16_t gewaehlteSpielart() const override;
     void zeigeWieder() override;
 
     void mausUeber(QWidget* feld) override;

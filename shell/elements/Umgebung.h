@@ -80,6 +80,8 @@ public:
     virtual ~Menue() = default;
     /// Presses the option of a game (1..3), which reloads the archive the menu's own way.
     virtual void waehleSpielart(std::int16_t spielart) = 0;
+    /// The game (1..3) of the option that is chosen; 0 while that is "Sa + Mi zusammen", which is no game.
+    virtual std::int16_t gewaehlteSpielart() const = 0;
     /// Comes back into view after a tool.
     virtual void zeigeWieder() = 0;
 };
