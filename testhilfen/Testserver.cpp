@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <arpa/inet.h>
+#include <cstdint>
 #include <fcntl.h>
 #include <netinet/in.h>
 #include <poll.h>
@@ -13,15 +14,15 @@ namespace {
 
 constexpr std::chrono::seconds kGeduld{10};
 
-/// A socket that listens on a free port of this machine.
-int horche()
+/// A socket that listens on a free port of this machine, with so many that may wait before it.
+int horche(int wartende = SOMAXCONN)
 {
     const int datei = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in adresse{};
     adresse.sin_family = AF_INET;
     adresse.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     if (datei < 0 || ::bind(datei, reinterpret_cast<sockaddr*>(&adresse), sizeof adresse) != 0 ||
-        ::listen(datei, SOMAXCONN) != 0)
+        ::listen(datei, wartende) != 0)
         throw std::runtime_error("no socket to listen on");
     return datei;
 }
@@ -74,6 +75,31 @@ int freierPort()
     const int port = portVon(datei);
     ::close(datei);
     return port;
+}
+
+VollerPort::VollerPort() : horcht_(horche(0)), port_(portVon(horcht_))
+{
+    constexpr int kHoechstens = 64;
+    sockaddr_in adresse{};
+    adresse.sin_family = AF_INET;
+    adresse.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    adresse.sin_port = htons(static_cast<std::uint16_t>(port_));
+    bool voll = false;
+    while (!voll && wartende_.size() < kHoechstens) {
+        wartende_.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+        ::connect(wartende_.back(), reinterpret_cast<sockaddr*>(&adresse), sizeof adresse);
+        pollfd verbunden{wartende_.back(), POLLOUT, 0};
+        voll = ::poll(&verbunden, 1, 200) == 0;
+    }
+    if (!voll)
+        throw std::runtime_error("the queue of a socket is never full");
+}
+
+VollerPort::~VollerPort()
+{
+    for (const int wartender : wartende_)
+        ::close(wartender);
+    ::close(horcht_);
 }
 
 Testserver::Testserver() : horcht_(horche()), port_(portVon(horcht_))

@@ -70,3 +70,19 @@ private:
 
 /// A port of 127.0.0.1 on which nobody listens.
 int freierPort();
+
+/// A port of 127.0.0.1 that leaves every attempt to connect without an answer: the queue before it is full.
+class VollerPort {
+public:
+    VollerPort();
+    ~VollerPort();
+    VollerPort(const VollerPort&) = delete;
+    VollerPort& operator=(const VollerPort&) = delete;
+
+    int port() const { return port_; }
+
+private:
+    int horcht_;
+    int port_;
+    std::vector<int> wartende_;
+};

@@ -4,9 +4,12 @@
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/Ziehungsschreiber.h"
 #include "shell/logic/Dateien.h"
+#include "shell/logic/Dateisperre.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
 
+#include <chrono>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -15,6 +18,10 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr auto kZip = "ziehungen.zip";
+constexpr std::string_view kAlteFassung = ".alt";
+
+/// How long the exchange waits for another program's writing.
+constexpr std::chrono::seconds kGeduld{2};
 
 /// The name under which the program leaves the file of a task.
 std::string dateiname(Onlineaufgabe aufgabe)
@@ -67,11 +74,37 @@ bool benenneUm(const fs::path& von, const fs::path& nach)
     return !fehler;
 }
 
-/// The file of that name, which from here on has exactly this spelling if it exists.
-fs::path inRichtigerSchreibung(const fs::path& ordner, const std::string& name)
+/// The Spielart whose Ziehungsdatei has that name, in whatever case; 0 if it is none.
+std::int16_t spielartMitDatei(std::string_view name)
 {
-    const fs::path datei = findeDatei(ordner, name);
-    const fs::path richtig = ordner / name;
+    for (const std::int16_t spielart : {Samstagslotto, Mittwochslotto, MittwochslottoB})
+        if (gleichOhneGrossKlein(name, ziehungsdateiName(spielart)))
+            return spielart;
+    return SpielartStart;
+}
+
+/// True for a file that bears the name of a Ziehungsdatei, be it broken, or holds draws under another one.
+bool istZiehungsdatei(const fs::path& datei)
+{
+    const bool heisstSo = spielartMitDatei(datei.filename().string()) != SpielartStart;
+    return (heisstSo && existiert(datei)) || zaehleZiehungen(datei) > 0;
+}
+
+/// True for the names under which the program keeps its own copies and unfinished files: nothing that comes from
+/// outside may lie there.
+bool istArbeitsname(const std::string& name)
+{
+    for (const Onlineaufgabe aufgabe : {Onlineaufgabe::Zip, Onlineaufgabe::Samstag, Onlineaufgabe::Mittwoch})
+        if (gleichOhneGrossKlein(name, kopiename(aufgabe)))
+            return true;
+    const std::string klein = kleinbuchstaben(name);
+    return klein.starts_with('.') || klein.ends_with(kAlteFassung);
+}
+
+/// The file, which from here on has that name if it exists.
+fs::path inRichtigerSchreibung(const fs::path& datei, const std::string& name)
+{
+    const fs::path richtig = datei.parent_path() / name;
     return datei != richtig && existiert(datei) && !benenneUm(datei, richtig) ? datei : richtig;
 }
 
@@ -88,15 +121,6 @@ std::int16_t spielartVon(Onlineaufgabe aufgabe)
         break;
     }
     return SpielartStart;
-}
-
-std::int32_t zaehleZiehungen(const fs::path& ordner, std::int16_t spielart)
-{
-    ZiehungsArchiv archiv;
-    archiv.Spielart = spielart;
-    archiv.ProgrammVerzeichnis = ordner.string();
-    LadeZiehungsdatei(archiv, {});
-    return archiv.AnzahlZiehungen;
 }
 
 bool gibtZiehungsdatei(const fs::path& ordner, std::int16_t spielart)
@@ -131,11 +155,9 @@ bool Onlineaktualisierung::beginne()
     if (!empfang)
         return false;
     empfang_ = *empfang;
-    if (aufgabe_ != Onlineaufgabe::Zip)
-        oldCount_ = zaehleZiehungen(programm_, spielartVon(aufgabe_));
     const fs::path datei = findeDatei(programm_, dateiname(aufgabe_));
     if (existiert(datei))
-        kopiert_ = kopiereDatei(datei, findeDatei(programm_, kopiename(aufgabe_))).gut();
+        kopiert_ = kopiereDatei(datei, kopie()).gut();
     return true;
 }
 
@@ -144,24 +166,24 @@ std::string Onlineaktualisierung::empfangsordner() const
     return mitTrenner(empfang_.string());
 }
 
-Onlineausgang Onlineaktualisierung::schliesseAb(std::int64_t empfangeneBytes)
+fs::path Onlineaktualisierung::kopie() const
 {
-    const Onlineausgang ausgang = urteile(empfangeneBytes);
+    return findeDatei(programm_, kopiename(aufgabe_));
+}
+
+Onlineausgang Onlineaktualisierung::schliesseAb(std::optional<std::int64_t> empfangeneBytes,
+                                                const std::function<bool()>& beimWarten)
+{
+    const fs::path neue = empfangene();
+    const Platz platz = platzFuer(neue.empty() ? fs::path(dateiname(aufgabe_)) : neue);
+    const auto sperre = Dateisperre::nimm(platz.datei, kGeduld, beimWarten);
+    Onlineausgang ausgang = Onlineausgang::KeineNeue;
+    if (!neue.empty())
+        ausgang = sperre ? urteile(neue, platz, empfangeneBytes) : Onlineausgang::Besetzt;
     if (aufgabe_ != Onlineaufgabe::Zip || ausgang != Onlineausgang::Uebernommen)
         stelleHer();
     verwirfEmpfang();
     return ausgang;
-}
-
-Onlineausgang Onlineaktualisierung::urteile(std::int64_t empfangeneBytes)
-{
-    const fs::path neue = empfangene();
-    if (neue.empty())
-        return Onlineausgang::KeineNeue;
-    // A text that the full disk has cut at a line end would pass the count.
-    if (!hatGroesse(neue, empfangeneBytes))
-        return istEigene(neue) && aufgabe_ != Onlineaufgabe::Zip ? Onlineausgang::Abgewiesen : Onlineausgang::KeineNeue;
-    return lege(neue);
 }
 
 /// The file that has come; empty if none has.
@@ -172,54 +194,73 @@ fs::path Onlineaktualisierung::empfangene() const
     return fehler || eintrag == fs::directory_iterator() ? fs::path() : eintrag->path();
 }
 
-/// True if what has come belongs in the place of the task's own file.
-bool Onlineaktualisierung::istEigene(const fs::path& neue) const
+Onlineaktualisierung::Platz Onlineaktualisierung::platzFuer(const fs::path& neue) const
 {
-    return istDasselbe(ordner_, programm_) && gleichOhneGrossKlein(neue.filename().string(), dateiname(aufgabe_));
+    const std::string name = neue.filename().string();
+    const bool beimProgramm = istDasselbe(ordner_, programm_);
+    const std::int16_t spielart = beimProgramm ? spielartMitDatei(name) : std::int16_t{SpielartStart};
+    const bool eigener = beimProgramm && gleichOhneGrossKlein(name, dateiname(aufgabe_));
+    std::string_view richtig = name;
+    if (spielart != SpielartStart)
+        richtig = ziehungsdateiName(spielart);
+    else if (eigener)
+        richtig = kZip;
+    return {findeDatei(ordner_, richtig), eigener, spielart};
 }
 
-Onlineausgang Onlineaktualisierung::lege(const fs::path& neue)
+Onlineausgang Onlineaktualisierung::urteile(const fs::path& neue, const Platz& platz, std::optional<std::int64_t> bytes)
 {
-    if (istEigene(neue))
-        return aufgabe_ == Onlineaufgabe::Zip ? legeZip(neue) : legeZiehungsdatei(neue);
-    // Another name or another folder: nobody looks at it, but what it takes the place of is kept.
-    const fs::path ziel = findeDatei(ordner_, neue.filename().string());
-    if (bewahreAlteFassung(ziel))
-        kopiereDatei(neue, ziel);
+    const bool zip = platz.eigener && aufgabe_ == Onlineaufgabe::Zip;
+    const bool ziehungen = !zip && (platz.spielart != SpielartStart || istZiehungsdatei(platz.datei));
+    // A text that the full disk or an impatient client has cut at a line end would pass the count.
+    const bool ganz = bytes && hatGroesse(neue, *bytes);
+    if (istArbeitsname(platz.datei.filename().string()) || (ziehungen && !ganz))
+        return Onlineausgang::Abgewiesen;
+    if (!ganz)
+        return Onlineausgang::KeineNeue;
+    if (zip)
+        return legeZip(neue, platz);
+    if (ziehungen)
+        return legeZiehungsdatei(neue, platz);
+    // Nobody looks at another file, but what it takes the place of is kept.
+    if (!gleicherInhalt(neue, platz.datei) && bewahreAlteFassung(platz.datei))
+        kopiereDatei(neue, platz.datei);
     return Onlineausgang::KeineNeue;
 }
 
-Onlineausgang Onlineaktualisierung::legeZip(const fs::path& neue)
+Onlineausgang Onlineaktualisierung::legeZip(const fs::path& neue, const Platz& platz) const
 {
-    const fs::path ziel = findeDatei(programm_, kZip);
-    const bool sicher = kopiert_ || !existiert(ziel);
-    return sicher && kopiereDatei(neue, ziel) ? Onlineausgang::Uebernommen : Onlineausgang::KeineNeue;
+    const bool sicher = kopiert_ || !existiert(platz.datei);
+    return sicher && kopiereDatei(neue, platz.datei) ? Onlineausgang::Uebernommen : Onlineausgang::KeineNeue;
 }
 
-Onlineausgang Onlineaktualisierung::legeZiehungsdatei(const fs::path& neue)
+Onlineausgang Onlineaktualisierung::legeZiehungsdatei(const fs::path& neue, const Platz& platz) const
 {
-    const std::int32_t newCount = zaehleZiehungen(empfang_, spielartVon(aufgabe_));
-    if (newCount == 0 || oldCount_ > newCount)
+    const bool nurKopie = platz.eigener && !existiert(platz.datei);
+    const std::int32_t oldCount = zaehleZiehungen(nurKopie ? kopie() : platz.datei);
+    const std::int32_t newCount = zaehleZiehungen(neue);
+    if (newCount == 0 || oldCount > newCount)
         return Onlineausgang::Abgewiesen;
-    const fs::path ziel = inRichtigerSchreibung(programm_, dateiname(aufgabe_));
+    const fs::path ziel = platz.spielart == SpielartStart
+                              ? platz.datei
+                              : inRichtigerSchreibung(platz.datei, std::string(ziehungsdateiName(platz.spielart)));
     // The same file once more: the content kept from before the last change is worth more than a second copy of this.
-    if (gleicherInhalt(neue, ziel))
-        return Onlineausgang::Uebernommen;
-    return bewahreAlteFassung(ziel) && kopiereDatei(neue, ziel) ? Onlineausgang::Uebernommen
-                                                                : Onlineausgang::Abgewiesen;
+    if (!gleicherInhalt(neue, ziel) && !(bewahreAlteFassung(ziel) && kopiereDatei(neue, ziel)))
+        return Onlineausgang::Abgewiesen;
+    return platz.eigener ? Onlineausgang::Uebernommen : Onlineausgang::KeineNeue;
 }
 
 /// Takes the copy away. If there is no file, the copy becomes the file.
 void Onlineaktualisierung::stelleHer() const
 {
-    const fs::path kopie = findeDatei(programm_, kopiename(aufgabe_));
-    if (!existiert(kopie))
+    const fs::path alte = kopie();
+    if (!existiert(alte))
         return;
     const std::string name = dateiname(aufgabe_);
     if (existiert(findeDatei(programm_, name)))
-        entferne(kopie);
+        entferne(alte);
     else
-        benenneUm(kopie, programm_ / name);
+        benenneUm(alte, programm_ / name);
 }
 
 Meldung erfolgsmeldung(const ZiehungsArchiv& archiv)
@@ -239,6 +280,16 @@ Meldung abweisung()
 {
     return {"", "Fehler: Die vom Server geladene Datei ist fehlerhaft oder ist älter als die Ziehungsdatei auf ihrem "
                 "Rechner! Ihre Ziehungsdatei wird wieder hergestellt."};
+}
+
+std::string statusZuLange()
+{
+    return "Status: Nach 10 Minuten abgebrochen. Die bisherige Datei bleibt unverändert.";
+}
+
+std::string statusBesetzt()
+{
+    return "Status: Ein anderes Programm ändert gerade die Ziehungsdateien. Die bisherige Datei bleibt unverändert.";
 }
 
 Meldung downloadHilfe()

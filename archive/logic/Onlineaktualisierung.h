@@ -5,6 +5,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 
 /// What a start button of the online update fetches; the values are the indices of the buttons.
@@ -17,6 +19,7 @@ enum class Onlineaufgabe {
 enum class Onlineausgang {
     KeineNeue,   ///< nothing has taken the file's place; what came under another name or for another folder lies there
     Abgewiesen,  ///< the new file has fewer draws than the old one or none, or could not be put in place
+    Besetzt,     ///< another program was changing the files all the time; nothing has changed
     Uebernommen, ///< the new file lies in its place
 };
 
@@ -36,28 +39,38 @@ public:
     /// Removes what is left of the transfer.
     ~Onlineaktualisierung();
 
-    /// Counts the draws of the present file, copies it, and makes the folder that receives. What a run has left behind
-    /// that did not come to its end is removed. False if the target folder cannot be written; nothing has changed then.
+    /// Copies the present file and makes the folder that receives. What a run has left behind that did not come to its
+    /// end is removed. False if the target folder cannot be written; nothing has changed then.
     bool beginne();
 
     /// The folder for the transfer, with a trailing separator.
     std::string empfangsordner() const;
 
-    /// Looks at what has come and brings the files in their final state. `empfangeneBytes` came from the server; if the
-    /// disk has not taken them all, the file counts as broken.
+    /// Looks at what has come and brings the files in their final state, with the right to write to itself.
+    /// `empfangeneBytes` came from the server; if the disk has not taken them all, or if there is no such number
+    /// because the transfer was given up, the file counts as broken. While another program writes, `beimWarten` is
+    /// called every few milliseconds, and false from it gives up.
     ///
-    /// A Ziehungsdatei is accepted if it can be read, has a draw and no fewer than the old one; its old content then
-    /// stays as "<name>.alt". Without a new file the copy goes away again, or takes the place of the file if that was
-    /// missing from the beginning.
-    Onlineausgang schliesseAb(std::int64_t empfangeneBytes);
+    /// Where a Ziehungsdatei lies, whatever its name or game, a new file is accepted if it can be read, has a draw and
+    /// no fewer than the old one has now; the old content then stays as "<name>.alt". Without a new file the copy goes
+    /// away again, or takes the place of the file if that is missing.
+    Onlineausgang schliesseAb(std::optional<std::int64_t> empfangeneBytes,
+                              const std::function<bool()>& beimWarten = {});
 
 private:
+    /// Where a file that has come belongs.
+    struct Platz {
+        std::filesystem::path datei; ///< the file that it would replace
+        bool eigener;                ///< it is the one of the task's own file
+        std::int16_t spielart;       ///< whose Ziehungsdatei the program reads there; 0: of none
+    };
+
     std::filesystem::path empfangene() const;
-    Onlineausgang urteile(std::int64_t empfangeneBytes);
-    bool istEigene(const std::filesystem::path& neue) const;
-    Onlineausgang lege(const std::filesystem::path& neue);
-    Onlineausgang legeZip(const std::filesystem::path& neue);
-    Onlineausgang legeZiehungsdatei(const std::filesystem::path& neue);
+    std::filesystem::path kopie() const;
+    Platz platzFuer(const std::filesystem::path& neue) const;
+    Onlineausgang urteile(const std::filesystem::path& neue, const Platz& platz, std::optional<std::int64_t> bytes);
+    Onlineausgang legeZip(const std::filesystem::path& neue, const Platz& platz) const;
+    Onlineausgang legeZiehungsdatei(const std::filesystem::path& neue, const Platz& platz) const;
     void stelleHer() const;
     void verwirfEmpfang();
 
@@ -65,12 +78,8 @@ private:
     std::filesystem::path programm_;
     std::filesystem::path ordner_;
     std::filesystem::path empfang_; ///< empty before `beginne` and after `schliesseAb`
-    std::int32_t oldCount_ = 0;
     bool kopiert_ = false;
 };
-
-/// The number of draws that the load of a Ziehungsdatei gives; 0 if it is missing or cannot be read.
-std::int32_t zaehleZiehungen(const std::filesystem::path& ordner, std::int16_t spielart);
 
 /// True if the Ziehungsdatei of that Spielart exists.
 bool gibtZiehungsdatei(const std::filesystem::path& ordner, std::int16_t spielart);
@@ -80,6 +89,12 @@ Meldung erfolgsmeldung(const ZiehungsArchiv& archiv);
 
 /// The message about a rejected file.
 Meldung abweisung();
+
+/// The status line of a transfer that was given up because it took too long.
+std::string statusZuLange();
+
+/// The status line of an update that came upon another program's writing.
+std::string statusBesetzt();
 
 /// What the button "Hilfe" tells.
 Meldung downloadHilfe();

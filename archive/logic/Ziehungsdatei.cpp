@@ -178,6 +178,12 @@ void LadeZiehungsdatei(ZiehungsArchiv& archiv, const MeldeFehlendeDatei& melde)
     baueDaten(archiv, spielart);
 }
 
+std::int32_t zaehleZiehungen(const std::filesystem::path& datei)
+{
+    const Saetze saetze = liesSaetze(leseDateiinhalt(datei, kMaxDateigroesse));
+    return saetze.fehlerfrei ? static_cast<std::int32_t>(saetze.ganze.size()) : 0;
+}
+
 std::string LadeAlleZiehungen(ZiehungsArchiv& archiv, int maske, const MeldeFehlendeDatei& melde)
 {
     const std::string verzeichnis = programmVerzeichnis(archiv.ProgrammVerzeichnis);

@@ -2,6 +2,8 @@
 
 #include "archive/logic/ZiehungsArchiv.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -18,6 +20,10 @@ std::string programmVerzeichnis(std::string path);
 /// what was read before it. A Spielart outside 0..3 and a file with more than `kMaxZiehungenJeDatei` records are such
 /// failures. An empty file is an empty archive.
 void LadeZiehungsdatei(ZiehungsArchiv& archiv, const MeldeFehlendeDatei& melde);
+
+/// The number of draws of a file, whatever its name, as the load would give it: 0 if it is missing or cannot be read
+/// whole.
+std::int32_t zaehleZiehungen(const std::filesystem::path& datei);
 
 /// Fills the columns and `DatumAlle` with the chosen files one after the other. `maske` is a set of bits: 1
 /// `SALOTTO.DAT`, 2 `MALOTTO.DAT`, 4 `MBLOTTO.DAT`. In `s`, 11 marks the draws before the Superzahl.

@@ -1,5 +1,6 @@
 #include "archive/logic/Ziehungsschreiber.h"
 
+#include "archive/logic/Ziehungsdatei.h"
 #include "shell/logic/Format.h"
 
 #include <cerrno>
@@ -94,10 +95,11 @@ DateiErgebnis bewahreAlteFassung(const std::filesystem::path& datei)
     const auto bytes = leseDatei(datei, kGroessteZiehungsdatei);
     if (!bytes)
         return {EIO, std::strerror(EIO)};
-    if (bytes->empty())
-        return {};
     std::filesystem::path alte = datei;
     alte += ".alt";
+    const bool ohneZiehungen = zaehleZiehungen(datei) == 0;
+    if (bytes->empty() || (ohneZiehungen && std::filesystem::exists(alte, fehler)))
+        return {};
     return schreibeDatei(alte, *bytes);
 }
 

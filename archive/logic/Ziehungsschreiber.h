@@ -15,8 +15,8 @@ std::string datensatz(const ZiehungsArchiv& archiv, std::size_t nr);
 /// A write protection is lifted; a missing file is made. On an error the file has its old length.
 DateiErgebnis haengeZeileAn(const std::filesystem::path& datei, std::string_view zeile);
 
-/// Keeps a copy of a file beside it, under its name with ".alt" behind it; an older copy is replaced. A missing
-/// file is no error; an empty one has nothing to keep and leaves the older copy.
+/// Keeps a copy of a file beside it, under its name with ".alt" behind it. An older copy is replaced only by a file
+/// that can be read whole and has draws. A missing file is no error; an empty one has nothing to keep.
 DateiErgebnis bewahreAlteFassung(const std::filesystem::path& datei);
 
 /// Writes all draws of the archive over its Ziehungsdatei, record by record with CR LF. The last content is kept beside

@@ -3,6 +3,7 @@
 #include "archive/logic/HttpKopf.h"
 #include "archive/logic/InternetUrl.h"
 #include "archive/logic/cURL.h"
+#include "shell/logic/OffeneDatei.h"
 #include "shell/logic/Zahlen.h"
 
 #include <array>
@@ -12,44 +13,25 @@
 #include <string_view>
 #include <unistd.h>
 
-/// The file that a transfer fills, from its beginning on and without cutting it. Closed with the object.
-class Empfangsdatei {
-public:
-    explicit Empfangsdatei(const std::string& pfad)
-        : nummer_(::open(pfad.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666))
-    {}
-    Empfangsdatei(const Empfangsdatei&) = delete;
-    Empfangsdatei& operator=(const Empfangsdatei&) = delete;
-    ~Empfangsdatei()
-    {
-        if (offen())
-            ::close(nummer_);
-    }
-
-    bool offen() const { return nummer_ >= 0; }
-    /// False if not all bytes could be written.
-    bool schreibe(std::span<const char> bytes) const
-    {
-        while (!bytes.empty()) {
-            const ssize_t geschrieben = ::write(nummer_, bytes.data(), bytes.size());
-            if (geschrieben > 0)
-                bytes = bytes.subspan(static_cast<std::size_t>(geschrieben));
-            else if (geschrieben == 0 || errno != EINTR)
-                return false;
-        }
-        return true;
-    }
-
-private:
-    int nummer_;
-};
-
 namespace {
 
 constexpr auto kAgent = "http sample";
 constexpr std::size_t kInfoPuffer = 1024;
 constexpr std::int32_t kStatusGut = 200;
 constexpr std::int32_t kStatusFehlt = 404;
+
+/// False if not all bytes could be written.
+bool schreibe(const OffeneDatei& datei, std::span<const char> bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t geschrieben = ::write(datei.nummer(), bytes.data(), bytes.size());
+        if (geschrieben > 0)
+            bytes = bytes.subspan(static_cast<std::size_t>(geschrieben));
+        else if (geschrieben == 0 || errno != EINTR)
+            return false;
+    }
+    return true;
+}
 
 } // namespace
 
@@ -87,8 +69,9 @@ void clsDownload::uebertrage(const std::string& url, const std::string& folder)
     }
     if (!pruefeAntwort())
         return;
-    Empfangsdatei datei(folder + *name);
-    if (datei.offen())
+    // Written from its beginning on, without cutting it.
+    const OffeneDatei datei(folder + *name, O_WRONLY | O_CREAT);
+    if (datei)
         lies(datei);
 }
 
@@ -121,7 +104,7 @@ bool clsDownload::pruefeAntwort()
     return true;
 }
 
-void clsDownload::lies(Empfangsdatei& datei)
+void clsDownload::lies(const OffeneDatei& datei)
 {
     std::array<char, kPuffer> puffer{};
     std::int64_t lesezeit = 1; // so that the first speed divides by something
@@ -132,7 +115,7 @@ void clsDownload::lies(Empfangsdatei& datei)
         const std::int64_t vorher = umgebung_.GetTickCount();
         gut = internet_.InternetReadFile(anfrage_, puffer, gelesen);
         const std::int64_t nachher = umgebung_.GetTickCount();
-        gut = datei.schreibe(std::span(puffer).first(gelesen)) && gut;
+        gut = schreibe(datei, std::span(puffer).first(gelesen)) && gut;
         lesezeit += nachher - vorher;
         werte_.received += static_cast<std::int32_t>(gelesen);
         werte_.speed = static_cast<double>(ReceivedBytes()) / (static_cast<double>(lesezeit) / 1000.0);

@@ -9,7 +9,7 @@
 #include <string>
 
 class cURL;
-class Empfangsdatei;
+class OffeneDatei;
 
 /// What the download client needs of the machine besides the network.
 struct Downloadumgebung {
@@ -64,7 +64,7 @@ private:
     void uebertrage(const std::string& url, const std::string& folder);
     bool baueAuf(const cURL& adresse);
     bool pruefeAntwort();
-    void lies(Empfangsdatei& datei);
+    void lies(const OffeneDatei& datei);
     std::string QueryInfo(int stufe);
     void melde(std::int32_t fehler, const char* text);
     void sage();

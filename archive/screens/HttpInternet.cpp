@@ -147,7 +147,7 @@ bool HttpInternet::verbinde()
     QElapsedTimer seit;
     seit.start();
     while (socket_->state() != QAbstractSocket::ConnectedState) {
-        if (socket_->state() == QAbstractSocket::UnconnectedState || !warte(seit))
+        if (socket_->state() == QAbstractSocket::UnconnectedState || !darfWarten(seit))
             return false;
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     }
@@ -199,17 +199,19 @@ bool HttpInternet::warteAufDaten()
     QElapsedTimer seit;
     seit.start();
     const qint64 vorher = socket_->bytesAvailable();
-    while (socket_->bytesAvailable() == vorher && socket_->state() == QAbstractSocket::ConnectedState)
-        if (!socket_->waitForReadyRead(kScheibe) && socket_->state() == QAbstractSocket::ConnectedState && !warte(seit))
+    const auto nichtsNeues = [&] {
+        return socket_->bytesAvailable() == vorher && socket_->state() == QAbstractSocket::ConnectedState;
+    };
+    while (nichtsNeues()) {
+        if (!darfWarten(seit))
             return false;
+        if (nichtsNeues()) // else it has come while somebody was asked
+            socket_->waitForReadyRead(kScheibe);
+    }
     return true;
 }
 
-bool HttpInternet::warte(const QElapsedTimer& seit)
+bool HttpInternet::darfWarten(const QElapsedTimer& seit) const
 {
-    const std::chrono::milliseconds gewartet(seit.elapsed());
-    if (gewartet > frist_)
-        return false;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    return !warten_ || warten_(gewartet);
+    return seit.elapsed() * std::chrono::milliseconds(1) <= frist_ && (!warten_ || warten_());
 }

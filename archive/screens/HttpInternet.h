@@ -15,12 +15,13 @@ class QTcpSocket;
 /// HTTP for the download client, spoken on one socket without a thread of its own. It holds one session, one connection
 /// and one request at a time.
 ///
-/// An operation that has to wait lets the screen repaint but keeps the user's input out.
+/// Only an operation that connects turns the event loop, and keeps the user's input out; whoever wants to let the user
+/// act while an operation waits does that when it is asked.
 class HttpInternet final : public Internet {
 public:
-    /// Is asked at least every 16 ms while an operation waits, and takes how long it has waited in vain; false breaks
-    /// the operation off.
-    using Warten = std::function<bool(std::chrono::milliseconds gewartet)>;
+    /// Is asked at least every 16 ms while an operation waits, also when bytes come all the time; false breaks the
+    /// operation off.
+    using Warten = std::function<bool()>;
 
     /// After `frist` without a byte an operation gives up.
     explicit HttpInternet(Warten warten, std::chrono::milliseconds frist = std::chrono::seconds(30));
@@ -43,7 +44,7 @@ private:
     bool empfangeKopf();
     bool empfangeEinenKopf();
     bool warteAufDaten();
-    bool warte(const QElapsedTimer& seit);
+    bool darfWarten(const QElapsedTimer& seit) const;
 
     Warten warten_;
     std::chrono::milliseconds frist_;

@@ -14,13 +14,14 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr std::int64_t kZug = 16; ///< milliseconds between two turns of the event loop
 
-/// From here on a wait is no longer short: the user may act, so that a server that hangs does not hold the screen.
-constexpr std::chrono::milliseconds kGeduld{200};
+/// A transfer that takes longer has failed, even if a byte comes now and then.
+constexpr std::chrono::minutes kHoechstdauer{10};
 
 constexpr auto kSalotto = "Aktualisieren Samstagslotto (Salotto.dat)";
 constexpr auto kMalotto = "Aktualisieren Mittwochslotto (Malotto.dat)";
@@ -33,7 +34,7 @@ const QColor kBalken(192, 192, 0);
 
 frmOnline::frmOnline(Umgebung& umgebung)
     : Bildschirm(umgebung, "frmOnline", "Aktualisierung der Ziehungsdateien"),
-      internet_([this](std::chrono::milliseconds gewartet) { return warte(gewartet); }),
+      internet_([this] { return warte(); }),
       dl(internet_,
          {[this] { return seitStart_.elapsed(); }, [this] { return istZeitFuerZug(); }, [this] { gibZug(); }})
 {
@@ -158,11 +159,17 @@ bool frmOnline::uebertrage(Onlineaktualisierung& aktualisierung, Onlineaufgabe a
                               : "Status: Aktualisierung wird gestartet. Bitte warten ...");
     const std::array quellen{txtURL, txtSa, txtMa};
     const QString quelle = quellen.at(static_cast<std::size_t>(aufgabe))->text();
+    begonnen_ = umgebung().uhr.jetzt();
+    zuLange_ = false;
     dl.Download(utf8(quelle), aktualisierung.empfangsordner());
-    zeigeFiguren();
-    const Onlineausgang ausgang = aktualisierung.schliesseAb(dl.ReceivedBytes());
+    if (zuLange_)
+        lblStatus[6]->setText(qt(statusZuLange()));
+    const auto bytes = zuLange_ ? std::nullopt : std::optional<std::int64_t>(dl.ReceivedBytes());
+    const Onlineausgang ausgang = aktualisierung.schliesseAb(bytes, [this] { return gibZugWennEsZeitIst(); });
     if (ausgang == Onlineausgang::Abgewiesen)
         melde(abweisung());
+    else if (ausgang == Onlineausgang::Besetzt)
+        lblStatus[6]->setText(qt(statusBesetzt()));
     else if (ausgang == Onlineausgang::Uebernommen && !zip)
         zeigeErfolg(aufgabe);
     return ausgang != Onlineausgang::Abgewiesen;
@@ -194,14 +201,13 @@ void frmOnline::melde(const Meldung& meldung)
     umgebung().boxen.info(meldung.titel.empty() ? kProgrammtitel : qt(meldung.titel), qt(meldung.text));
 }
 
-/// A chunk has come or an error has ended the transfer. The screen follows at the pace of the eye; what the last chunk
-/// has left is shown behind the transfer.
+/// A chunk has come or an error has ended the transfer. The screen follows at the pace of the eye, with the next turn
+/// of the event loop.
 void frmOnline::dl_Update()
 {
-    if (dl.ErrorNumber() == 0 && !istZeitFuerZug())
-        return;
-    zeigeFiguren();
-    gibZug();
+    figurenSindAlt_ = true;
+    if (dl.ErrorNumber() != 0 || istZeitFuerZug())
+        gibZug();
 }
 
 void frmOnline::zeigeFiguren()
@@ -237,6 +243,8 @@ bool frmOnline::istZeitFuerZug() const
 
 void frmOnline::gibZug()
 {
+    if (std::exchange(figurenSindAlt_, false))
+        zeigeFiguren();
     if (!umgebung().pumpe.verarbeite())
         stoppe();
     if (gestoppt())
@@ -244,11 +252,19 @@ void frmOnline::gibZug()
     letzterZug_ = seitStart_.elapsed();
 }
 
-bool frmOnline::warte(std::chrono::milliseconds gewartet)
+bool frmOnline::gibZugWennEsZeitIst()
 {
-    if (gewartet >= kGeduld && istZeitFuerZug())
+    if (istZeitFuerZug())
         gibZug();
     return !gestoppt();
+}
+
+/// The transfer waits for the server. False once it is to end.
+bool frmOnline::warte()
+{
+    const bool weiter = gibZugWennEsZeitIst();
+    zuLange_ = umgebung().uhr.jetzt() - begonnen_ >= kHoechstdauer;
+    return weiter && !zuLange_;
 }
 
 /// The menu's option, the Spielart and the archive agree again. Without an option of one game the Spielart stays.

@@ -37,12 +37,16 @@ private:
 
     bool istZeitFuerZug() const;
     void gibZug();
-    bool warte(std::chrono::milliseconds gewartet);
+    bool gibZugWennEsZeitIst();
+    bool warte();
 
     HttpInternet internet_;
     clsDownload dl;
     QElapsedTimer seitStart_;
     std::int64_t letzterZug_ = 0; ///< milliseconds on `seitStart_`
+    bool figurenSindAlt_ = false; ///< a chunk or an error has come since they were shown
+    Zeitpunkt begonnen_;          ///< when the transfer began
+    bool zuLange_ = false;        ///< the transfer has ended because it took too long
 
     std::array<QPushButton*, 3> cmdStart;
     QLineEdit *txtFolder, *txtSa, *txtMa, *txtURL;

@@ -51,7 +51,7 @@ protected:
     Testserver server;
     Pruefordner ordner;
     HttpInternet::Warten warten;
-    HttpInternet netz{[this](std::chrono::milliseconds gewartet) { return !warten || warten(gewartet); }, kGeduld};
+    HttpInternet netz{[this] { return !warten || warten(); }, kGeduld};
     HttpInternet ungeduldigesNetz{{}, 300ms};
     QElapsedTimer uhr;
     int updates = 0;
@@ -340,11 +340,25 @@ TEST_F(Netz, EinWartenderAufrufLaesstSichAbbrechen)
     Serverantwort antwort = antworteMitKopf({"HTTP/1.1 200 OK", "Content-Length: 20000"}, bytes(10'000));
     antwort.bleibtOffen = true;
     antworteServer(antwort);
-    warten = [this](std::chrono::milliseconds) { return dl.ReceivedBytes() < 8192; };
+    warten = [this] { return dl.ReceivedBytes() < 8192; };
     ladeDatei();
     EXPECT_LT(uhr.elapsed() * 1ms, kGeduld);
     EXPECT_EQ(dl.ReceivedBytes(), 10'000); // what had come is not lost
     EXPECT_EQ(dl.Status(), 0);
+}
+
+TEST_F(Netz, WirdGefragtAuchWennStaendigBytesKommen)
+{
+    Serverantwort antwort = antworte(bytes(2000));
+    antwort.stueck = 1;
+    antwort.pause = 1ms;
+    antworteServer(antwort);
+    int gefragt = 0;
+    warten = [&] { return ++gefragt < 50; };
+    ladeDatei();
+    EXPECT_EQ(gefragt, 50);
+    EXPECT_GT(dl.ReceivedBytes(), 0);
+    EXPECT_LT(dl.ReceivedBytes(), 2000);
 }
 
 /// Counts the moves of the mouse that reach a window.
@@ -372,7 +386,7 @@ TEST_F(Netz, EingabenWartenBisEinLesenVorbeiIst)
     antworteServer(antwort);
     int gewartet = 0;
     int waehrenddessen = -1;
-    warten = [&](std::chrono::milliseconds) {
+    warten = [&] {
         QCursor::setPos(fenster.mapToGlobal(QPoint(50 + ++gewartet, 50)));
         return true;
     };

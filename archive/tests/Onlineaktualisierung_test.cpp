@@ -3,6 +3,7 @@
 #include "archive/logic/clsDownload.h"
 #include "archive/tests/Probeinternet.h"
 #include "archive/tests/Testsaetze.h"
+#include "shell/logic/Dateisperre.h"
 #include "testhilfen/Kindprozess.h"
 #include "testhilfen/Pruefordner.h"
 
@@ -54,6 +55,18 @@ protected:
 
 const std::string kAlt = testsaetze(100);
 const std::string kNeu = testsaetze(101);
+/// What a server sends instead of a file.
+const std::string kSeite = "<html><head><title>404 Not Found</title></head><body>weg</body></html>\r\n";
+
+/// The number of a process that is no more.
+pid_t beendeterProzess()
+{
+    const pid_t kind = ::fork();
+    if (kind == 0)
+        ::_exit(0);
+    ::waitpid(kind, nullptr, 0);
+    return kind;
+}
 
 TEST_F(Aktualisierung, EineNeuereDateiNimmtDenPlatzDerAlten)
 {
@@ -170,26 +183,221 @@ TEST_F(Aktualisierung, EinAnderesZielverzeichnisLaesstDieEigeneDatei)
     EXPECT_EQ(anderer.eintraege(), 1U);
 }
 
-TEST_F(Aktualisierung, ImAnderenZielverzeichnisBleibtWasErsetztWird)
+TEST_F(Aktualisierung, ImAnderenZielverzeichnisWirdEineZiehungsdateiNurNachDerPruefungErsetzt)
 {
     const Pruefordner anderer;
     woanders = anderer.pfad();
-    anderer.lege("SALOTTO.DAT", kAlt + "ein laengerer alter Inhalt");
-    hole(Onlineaufgabe::Samstag, "Salotto.dat", "kurz");
-    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT"), "kurz");
-    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT.alt"), kAlt + "ein laengerer alter Inhalt");
+    anderer.lege("SALOTTO.DAT", kAlt);
+    EXPECT_EQ(hole(Onlineaufgabe::Samstag, "Salotto.dat", kSeite), Onlineausgang::Abgewiesen);
+    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT"), kAlt);
+    EXPECT_EQ(anderer.eintraege(), 1U);
+    EXPECT_EQ(hole(Onlineaufgabe::Samstag, "Salotto.dat", kNeu), Onlineausgang::KeineNeue);
+    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT"), kNeu);
+    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT.alt"), kAlt);
     EXPECT_EQ(anderer.eintraege(), 2U);
 }
 
-TEST_F(Aktualisierung, EinAndererNameWirdNichtGeprueftUndErsetztNichtsOhneSicherung)
+TEST_F(Aktualisierung, NachEinemAnderenZielverzeichnisIstAufgeraeumt)
+{
+    const Pruefordner anderer;
+    woanders = anderer.pfad();
+    const std::string rest = ".neu-" + std::to_string(beendeterProzess()) + "-0";
+    programm.lege("SALOTTO.DAT", kAlt);
+    for (const auto& neuer : {std::optional(kNeu), std::optional<std::string>()}) {
+        for (const fs::path& ordner : {programm.pfad(), anderer.pfad()}) {
+            fs::create_directory(ordner / rest);
+            fs::copy_file(programm / "SALOTTO.DAT", ordner / rest / "Salotto.dat");
+        }
+        beiEmpfang = [&] {
+            EXPECT_FALSE(fs::exists(anderer / rest));
+            EXPECT_FALSE(fs::exists(programm / rest));
+            EXPECT_EQ(inhalt("Salotto-kopie.dat"), kAlt);
+        };
+        EXPECT_EQ(hole(Onlineaufgabe::Samstag, "Salotto.dat", neuer), Onlineausgang::KeineNeue);
+        EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT"));
+        EXPECT_EQ(anderer.eintraege(), 1U);
+        EXPECT_EQ(inhaltVon(anderer / "Salotto.dat"), kNeu);
+    }
+}
+
+TEST_F(Aktualisierung, DieDateiEinesAnderenSpielsWirdGeprueft)
+{
+    for (const Onlineaufgabe aufgabe : {Onlineaufgabe::Zip, Onlineaufgabe::Samstag, Onlineaufgabe::Mittwoch}) {
+        for (const char* name : {"mblotto.dat", "MBLOTTO.DAT", "MbLotto.Dat", "%4dBLOTTO.dat"}) {
+            SCOPED_TRACE(name);
+            programm.lege("MBLOTTO.DAT", kNeu);
+            programm.lege("MBLOTTO.DAT.alt", kAlt);
+            for (const std::string& schlechter : {kSeite, kAlt, std::string("PK")}) {
+                EXPECT_EQ(hole(aufgabe, name, schlechter), Onlineausgang::Abgewiesen);
+                EXPECT_EQ(inhalt("MBLOTTO.DAT"), kNeu);
+                EXPECT_EQ(inhalt("MBLOTTO.DAT.alt"), kAlt);
+            }
+            EXPECT_THAT(namen(), UnorderedElementsAre("MBLOTTO.DAT", "MBLOTTO.DAT.alt"));
+        }
+    }
+}
+
+TEST_F(Aktualisierung, DieBestandeneDateiEinesAnderenSpielsNimmtDessenPlatz)
 {
     programm.lege("SALOTTO.DAT", kAlt);
-    programm.lege("MALOTTO.DAT", kNeu);
-    EXPECT_EQ(hole(Onlineaufgabe::Samstag, "malotto.dat", "verwechselt"), Onlineausgang::KeineNeue);
+    programm.lege("Malotto.dat", kAlt);
+    for (int mal = 0; mal < 2; ++mal) {
+        EXPECT_EQ(hole(Onlineaufgabe::Samstag, "malotto.dat", kNeu), Onlineausgang::KeineNeue);
+        EXPECT_EQ(inhalt("SALOTTO.DAT"), kAlt);
+        EXPECT_EQ(inhalt("MALOTTO.DAT"), kNeu);
+        EXPECT_EQ(inhalt("MALOTTO.DAT.alt"), kAlt);
+        EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT", "MALOTTO.DAT", "MALOTTO.DAT.alt"));
+    }
+}
+
+TEST_F(Aktualisierung, AuchWoKeineLagWirdKeineUnlesbareZiehungsdateiHingelegt)
+{
+    programm.lege("SALOTTO.DAT", kAlt);
+    EXPECT_EQ(hole(Onlineaufgabe::Samstag, "malotto.dat", kSeite), Onlineausgang::Abgewiesen);
+    EXPECT_EQ(hole(Onlineaufgabe::Zip, "malotto.dat", kSeite), Onlineausgang::Abgewiesen);
+    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT"));
+    EXPECT_EQ(hole(Onlineaufgabe::Zip, "malotto.dat", kNeu), Onlineausgang::KeineNeue);
+    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT", "MALOTTO.DAT"));
+}
+
+TEST_F(Aktualisierung, ZiehungenUnterAnderemNamenWerdenGeprueft)
+{
+    programm.lege("SALOTTO.DAT", kAlt);
+    programm.lege("meine.txt", kAlt);
+    fs::create_symlink(programm / "SALOTTO.DAT", programm / "verweis.txt");
+    for (const char* name : {"meine.txt", "MEINE.TXT", "verweis.txt"}) {
+        EXPECT_EQ(hole(Onlineaufgabe::Zip, name, kSeite), Onlineausgang::Abgewiesen);
+        EXPECT_EQ(inhalt("SALOTTO.DAT"), kAlt);
+        EXPECT_EQ(inhalt("meine.txt"), kAlt);
+        EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT", "meine.txt", "verweis.txt"));
+    }
+}
+
+TEST_F(Aktualisierung, UnterDieNamenMitDenenDasProgrammArbeitetKommtNichts)
+{
+    programm.lege("SALOTTO.DAT", kAlt);
+    programm.lege("SALOTTO.DAT.alt", kAlt);
+    for (const char* name : {"SALOTTO.DAT.alt", "salotto.dat.ALT", "malotto.dat.alt", "Salotto-kopie.dat",
+                             "MALOTTO-KOPIE.DAT", "ziehungen-kopie.zip", ".tombrix-sperre", ".neu-1-0"}) {
+        SCOPED_TRACE(name);
+        for (const std::string& datei : {kSeite, kNeu})
+            EXPECT_EQ(hole(Onlineaufgabe::Samstag, name, datei), Onlineausgang::Abgewiesen);
+        EXPECT_EQ(inhalt("SALOTTO.DAT"), kAlt);
+        EXPECT_EQ(inhalt("SALOTTO.DAT.alt"), kAlt);
+        EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT", "SALOTTO.DAT.alt"));
+    }
+    fs::remove(programm / "SALOTTO.DAT");
+    EXPECT_EQ(hole(Onlineaufgabe::Samstag, "Salotto-kopie.dat", kSeite), Onlineausgang::Abgewiesen);
+    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT.alt"));
+}
+
+TEST_F(Aktualisierung, EtwasAnderesWirdErsetztUndBleibtBeliebigOftErhalten)
+{
+    programm.lege("notizen.txt", "meine Notizen");
+    for (const char* seite : {"eins", "eins", "zwei", "drei"}) {
+        EXPECT_EQ(hole(Onlineaufgabe::Zip, "notizen.txt", seite), Onlineausgang::KeineNeue);
+        EXPECT_EQ(inhalt("notizen.txt"), seite);
+        EXPECT_EQ(inhalt("notizen.txt.alt"), "meine Notizen");
+    }
+}
+
+TEST_F(Aktualisierung, EineUnlesbareDateiErsetztDieSicherungNicht)
+{
+    programm.lege("SALOTTO.DAT.alt", kAlt);
+    for (const char* kaputte : {"kaputt", "\r\n \r\n"}) {
+        programm.lege("SALOTTO.DAT", kaputte);
+        EXPECT_EQ(hole(Onlineaufgabe::Samstag, "Salotto.dat", kNeu), Onlineausgang::Uebernommen);
+        EXPECT_EQ(inhalt("SALOTTO.DAT"), kNeu);
+        EXPECT_EQ(inhalt("SALOTTO.DAT.alt"), kAlt);
+    }
+}
+
+TEST_F(Aktualisierung, EineAufgegebeneUebertragungLaesstDieAlteDatei)
+{
+    programm.lege("SALOTTO.DAT", kAlt);
+    programm.lege("ziehungen.zip", "PK1");
+    const auto gibAuf = [this](Onlineaufgabe aufgabe, const std::string& name) {
+        Onlineaktualisierung aktualisierung(aufgabe, programm.pfad(), programm.pfad());
+        EXPECT_TRUE(aktualisierung.beginne());
+        empfange(aktualisierung, name, kNeu);
+        return aktualisierung.schliesseAb(std::nullopt);
+    };
+    EXPECT_EQ(gibAuf(Onlineaufgabe::Samstag, "Salotto.dat"), Onlineausgang::Abgewiesen);
+    EXPECT_EQ(gibAuf(Onlineaufgabe::Samstag, "Malotto.dat"), Onlineausgang::Abgewiesen);
+    EXPECT_EQ(gibAuf(Onlineaufgabe::Zip, "ziehungen.zip"), Onlineausgang::KeineNeue);
+    EXPECT_EQ(gibAuf(Onlineaufgabe::Zip, "sonstwas.txt"), Onlineausgang::KeineNeue);
     EXPECT_EQ(inhalt("SALOTTO.DAT"), kAlt);
-    EXPECT_EQ(inhalt("MALOTTO.DAT"), "verwechselt");
-    EXPECT_EQ(inhalt("MALOTTO.DAT.alt"), kNeu);
-    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT", "MALOTTO.DAT", "MALOTTO.DAT.alt"));
+    EXPECT_EQ(inhalt("ziehungen.zip"), "PK1");
+    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT", "ziehungen.zip"));
+}
+
+/// An update that meets another writer.
+class AktualisierungZuZweit : public Aktualisierung {
+protected:
+    void SetUp() override { programm.lege("SALOTTO.DAT", kAlt); }
+
+    std::optional<Dateisperre> sperre() const { return Dateisperre::nimm(programm / "SALOTTO.DAT", {}); }
+    /// One update to `kNeu`; `beimWarten` is what it does while the other one writes.
+    Onlineausgang hole(const std::function<bool()>& beimWarten)
+    {
+        Onlineaktualisierung aktualisierung(Onlineaufgabe::Samstag, programm.pfad(), programm.pfad());
+        EXPECT_TRUE(aktualisierung.beginne());
+        return aktualisierung.schliesseAb(empfange(aktualisierung, "Salotto.dat", kNeu), beimWarten);
+    }
+};
+
+TEST_F(AktualisierungZuZweit, WaehrendDerUebertragungDarfEinAndererSchreiben)
+{
+    beiEmpfang = [this] { EXPECT_TRUE(sperre()); };
+    EXPECT_EQ(hole({}), Onlineausgang::Uebernommen);
+    EXPECT_TRUE(sperre());
+}
+
+TEST_F(AktualisierungZuZweit, SchreibtEinAndererBleibtDieDatei)
+{
+    const auto fremde = sperre();
+    ASSERT_TRUE(fremde);
+    EXPECT_EQ(hole([] { return false; }), Onlineausgang::Besetzt);
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), kAlt);
+    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT"));
+}
+
+TEST_F(AktualisierungZuZweit, SieWartetKurz)
+{
+    auto fremde = sperre();
+    int gewartet = 0;
+    EXPECT_EQ(hole([&] {
+                  if (++gewartet == 3)
+                      fremde.reset();
+                  return true;
+              }),
+              Onlineausgang::Uebernommen);
+    EXPECT_EQ(gewartet, 3);
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), kNeu);
+}
+
+TEST_F(AktualisierungZuZweit, EsZaehltWasDannInDerDateiSteht)
+{
+    auto fremde = sperre();
+    const std::string laengere = testsaetze(102);
+    EXPECT_EQ(hole([&] {
+                  programm.lege("SALOTTO.DAT", laengere);
+                  fremde.reset();
+                  return true;
+              }),
+              Onlineausgang::Abgewiesen);
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), laengere);
+    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT"));
+}
+
+TEST_F(AktualisierungZuZweit, IstDieDateiInzwischenWegZaehltIhreKopie)
+{
+    const std::string laengere = testsaetze(102);
+    programm.lege("SALOTTO.DAT", laengere);
+    beiEmpfang = [this] { fs::remove(programm / "SALOTTO.DAT"); };
+    EXPECT_EQ(hole({}), Onlineausgang::Abgewiesen);
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), laengere);
+    EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT"));
 }
 
 TEST_F(Aktualisierung, DieselbeDateiNocheinmalLaesstDieSicherungStehen)
@@ -306,12 +514,8 @@ TEST_F(Aktualisierung, OhneNeuesZipBleibtDasAlteUndDieKopieGeht)
 
 TEST_F(Aktualisierung, RestlicheEmpfangsordnerEinesAbgebrochenenLaufsGehenWeg)
 {
-    const int kind = ::fork();
-    if (kind == 0)
-        ::_exit(0);
-    ::waitpid(kind, nullptr, 0);
     programm.lege("SALOTTO.DAT", kAlt);
-    fs::create_directory(programm / (".neu-" + std::to_string(kind) + "-0"));
+    fs::create_directory(programm / (".neu-" + std::to_string(beendeterProzess()) + "-0"));
     hole(Onlineaufgabe::Samstag, "Salotto.dat", kNeu);
     EXPECT_THAT(namen(), UnorderedElementsAre("SALOTTO.DAT", "SALOTTO.DAT.alt"));
 }

@@ -2,6 +2,7 @@
 #include "archive/screens/Spielartlader.h"
 #include "archive/tests/Onlinetest.h"
 #include "shell/elements/Bildschirm.h"
+#include "shell/logic/Dateisperre.h"
 #include "testhilfen/Kindprozess.h"
 
 #include <QCoreApplication>
@@ -384,23 +385,35 @@ TEST_F(Online, DasEndeDesProgrammsBrichtDieUebertragungAb)
     EXPECT_TRUE(inhalt("SALOTTO.DAT") == altSa);
 }
 
-TEST_F(Online, HaengtDerServerKannManNachKurzerZeitHandeln)
+TEST_F(Online, SchreibtEinAnderesProgrammBleibtDieDateiUndEsStehtDa)
 {
-    server.setze("/lotto/Salotto.dat", haengende(altSa.substr(0, 100)));
+    server.setze("/lotto/Salotto.dat", antworte(mitEinerMehr(altSa)));
     oeffneOnline();
-    QElapsedTimer uhr;
-    uhr.start();
-    qint64 ersterZug = -1;
-    buehne.pumpe.beiZug = [&] {
-        if (ersterZug < 0 && lies("lblStatus(6)").contains("Bitte warten"))
-            ersterZug = uhr.elapsed();
-        if (ersterZug >= 0)
-            schliesse();
-    };
+    auto fremde = Dateisperre::nimm(ordner.filePath("SALOTTO.DAT").toStdString(), {});
+    ASSERT_TRUE(fremde);
     klicke("cmdStart(1)");
-    buehne.pumpe.beiZug = {};
-    EXPECT_GE(ersterZug, 190);
-    EXPECT_LT(ersterZug, kGeduldDesClients);
+    EXPECT_EQ(
+        lies("lblStatus(6)"),
+        "Status: Ein anderes Programm ändert gerade die Ziehungsdateien. Die bisherige Datei bleibt unverändert.");
+    EXPECT_EQ(boxen(), QStringList());
+    EXPECT_TRUE(inhalt("SALOTTO.DAT") == altSa);
+    EXPECT_EQ(zusaetzliche(), QStringList());
+    erwarteGesperrt(false);
+    fremde.reset();
+    klicke("cmdStart(1)");
+    EXPECT_TRUE(inhalt("SALOTTO.DAT") == mitEinerMehr(altSa));
+}
+
+TEST_F(Online, EineSeiteUnterDemNamenEinesAnderenSpielsWirdAbgewiesen)
+{
+    server.setze("/lotto/MALOTTO.dat", antworte("<html>nicht da</html>"));
+    oeffneOnline();
+    setze("txtSa", adresse("/lotto/MALOTTO.dat"));
+    klicke("cmdStart(1)");
+    EXPECT_EQ(boxen(), QStringList{kAbgewiesen});
+    EXPECT_TRUE(inhalt("MALOTTO.DAT") == altMa);
+    EXPECT_TRUE(inhalt("SALOTTO.DAT") == altSa);
+    EXPECT_EQ(zusaetzliche(), QStringList());
 }
 
 TEST_F(Online, EinZweiterDruckWaehrendDerUebertragungTutNichts)
