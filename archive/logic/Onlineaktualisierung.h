@@ -1,8 +1,5 @@
 #pragma once
 
-#include "archive/logic/ZiehungsArchiv.h"
-#include "shell/logic/Meldung.h"
-
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -83,18 +80,3 @@ private:
 
 /// True if the Ziehungsdatei of that Spielart exists.
 bool gibtZiehungsdatei(const std::filesystem::path& ordner, std::int16_t spielart);
-
-/// The message about the last draw of a freshly loaded archive with at least one draw.
-Meldung erfolgsmeldung(const ZiehungsArchiv& archiv);
-
-/// The message about a rejected file.
-Meldung abweisung();
-
-/// The status line of a transfer that was given up because it took too long.
-std::string statusZuLange();
-
-/// The status line of an update that came upon another program's writing.
-std::string statusBesetzt();
-
-/// What the button "Hilfe" tells.
-Meldung downloadHilfe();

@@ -1,5 +1,6 @@
 #include "archive/screens/frmOnline.h"
 
+#include "archive/logic/Onlinetexte.h"
 #include "archive/screens/Fortschrittsfeld.h"
 #include "archive/screens/Spielartlader.h"
 #include "archive/screens/Updateserver.h"

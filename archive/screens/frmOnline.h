@@ -5,6 +5,7 @@
 #include "archive/logic/clsDownload.h"
 #include "archive/screens/HttpInternet.h"
 #include "shell/elements/Bildschirm.h"
+#include "shell/logic/Meldung.h"
 
 #include <QElapsedTimer>
 

@@ -1,4 +1,5 @@
 #include "archive/logic/Onlineaktualisierung.h"
+#include "archive/logic/Onlinetexte.h"
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/clsDownload.h"
 #include "archive/tests/Probeinternet.h"

@@ -392,9 +392,8 @@ TEST_F(Online, SchreibtEinAnderesProgrammBleibtDieDateiUndEsStehtDa)
     auto fremde = Dateisperre::nimm(ordner.filePath("SALOTTO.DAT").toStdString(), {});
     ASSERT_TRUE(fremde);
     klicke("cmdStart(1)");
-    EXPECT_EQ(
-        lies("lblStatus(6)"),
-        "Status: Ein anderes Programm ändert gerade die Ziehungsdateien. Die bisherige Datei bleibt unverändert.");
+    EXPECT_EQ(lies("lblStatus(6)"),
+              "Status: Ein anderes Programm schreibt gerade. Die bisherige Datei bleibt unverändert.");
     EXPECT_EQ(boxen(), QStringList());
     EXPECT_TRUE(inhalt("SALOTTO.DAT") == altSa);
     EXPECT_EQ(zusaetzliche(), QStringList());
