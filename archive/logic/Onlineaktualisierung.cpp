@@ -223,7 +223,7 @@ Onlineausgang Onlineaktualisierung::urteile(const fs::path& neue, const Platz& p
     if (ziehungen)
         return legeZiehungsdatei(neue, platz);
     // Nobody looks at another file, but what it takes the place of is kept.
-    if (!gleicherInhalt(neue, platz.datei) && bewahreAlteFassung(platz.datei))
+    if (bewahreAlteFassung(platz.datei))
         kopiereDatei(neue, platz.datei);
     return Onlineausgang::KeineNeue;
 }

@@ -25,7 +25,10 @@ protected:
         Onlineaktualisierung aktualisierung(aufgabe, programm.pfad(), ziel());
         if (!aktualisierung.beginne())
             return Onlineausgang::KeineNeue;
-        return aktualisierung.schliesseAb(empfange(aktualisierung, name, std::move(inhalt)));
+        const fs::path empfang = aktualisierung.empfangsordner();
+        const Onlineausgang ausgang = aktualisierung.schliesseAb(empfange(aktualisierung, name, std::move(inhalt)));
+        EXPECT_FALSE(fs::exists(empfang)) << "a box may stand before the update itself is gone";
+        return ausgang;
     }
     std::int32_t empfange(const Onlineaktualisierung& aktualisierung, const std::string& name,
                           std::optional<std::string> inhalt)
@@ -196,6 +199,18 @@ TEST_F(Aktualisierung, ImAnderenZielverzeichnisWirdEineZiehungsdateiNurNachDerPr
     EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT"), kNeu);
     EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT.alt"), kAlt);
     EXPECT_EQ(anderer.eintraege(), 2U);
+}
+
+TEST_F(Aktualisierung, ImAnderenZielverzeichnisWeichtEineUnlesbareZiehungsdateiNurEinerLesbaren)
+{
+    const Pruefordner anderer;
+    woanders = anderer.pfad();
+    anderer.lege("SALOTTO.DAT", "kaputt");
+    EXPECT_EQ(hole(Onlineaufgabe::Samstag, "Salotto.dat", kSeite), Onlineausgang::Abgewiesen);
+    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT"), "kaputt");
+    EXPECT_EQ(hole(Onlineaufgabe::Samstag, "Salotto.dat", kNeu), Onlineausgang::KeineNeue);
+    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT"), kNeu);
+    EXPECT_EQ(inhaltVon(anderer / "SALOTTO.DAT.alt"), "kaputt");
 }
 
 TEST_F(Aktualisierung, NachEinemAnderenZielverzeichnisIstAufgeraeumt)
