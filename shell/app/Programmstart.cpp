@@ -4,6 +4,7 @@
 #include "archive/screens/Registrierung.h"
 #include "archive/screens/Spielartlader.h"
 #include "engines/screens/Registrierung.h"
+#include "filters/screens/Registrierung.h"
 #include "shell/app/frmLSTART.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "statistics/screens/Registrierung.h"
@@ -13,6 +14,7 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmLSTART>("frmLSTART");
     registriereArchivbildschirme(verzeichnis);
     registriereStatistikbildschirme(verzeichnis);
+    registriereFilterbildschirme(verzeichnis);
     registriereSuchbildschirme(verzeichnis);
 }
 

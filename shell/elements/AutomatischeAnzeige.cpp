@@ -50,6 +50,12 @@ void AutomatischeAnzeige::schalte()
     cmdAuto->setText(Timer1->isActive() ? beschriftung_.ein : beschriftung_.aus);
 }
 
+void AutomatischeAnzeige::schalteAus()
+{
+    Timer1->stop();
+    cmdAuto->setText(beschriftung_.aus);
+}
+
 void AutomatischeAnzeige::ticke()
 {
     for (Gefuehrt& gefuehrt : listen_) {

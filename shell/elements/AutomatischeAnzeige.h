@@ -28,6 +28,8 @@ public:
     AutomatischeAnzeige(QPushButton* cmdAuto, const Beschriftung& beschriftung, QWidget* eltern);
 
     void fuehre(Liste* liste, NachLoslassen nachLoslassen);
+    /// Stops as the button would.
+    void schalteAus();
     /// The next tick counts from the first row again.
     void beginneVorn(const Liste* liste);
 

@@ -1,0 +1,15 @@
+#include "filters/screens/Registrierung.h"
+
+#include "filters/screens/frmZusammenGU.h"
+#include "filters/screens/frmZusammenHochTief.h"
+#include "filters/screens/frmZusammenPrim.h"
+#include "filters/screens/frmZusammenRand.h"
+#include "shell/elements/BildschirmVerzeichnis.h"
+
+void registriereFilterbildschirme(BildschirmVerzeichnis& verzeichnis)
+{
+    verzeichnis.registriere<frmZusammenGU>("frmZusammenGU");
+    verzeichnis.registriere<frmZusammenHochTief>("frmZusammenHochTief");
+    verzeichnis.registriere<frmZusammenRand>("frmZusammenRand");
+    verzeichnis.registriere<frmZusammenPrim>("frmZusammenPrim");
+}
