@@ -140,8 +140,11 @@ void AuswertebereichView::fuelle()
 
 void AuswertebereichView::folgeArchiv()
 {
+    const Auswertebereich neuer = bereichDesArchivs(bildschirm_.umgebung().archiv);
+    if (modell_.gleichesArchiv(neuer))
+        return;
     uebernimm();
-    modell_.folge(bereichDesArchivs(bildschirm_.umgebung().archiv));
+    modell_.folge(neuer);
     fuelleAuswahlen();
     zeige();
 }
@@ -173,6 +176,7 @@ void AuswertebereichView::zeige()
 
 std::optional<Ziehungsbereich> AuswertebereichView::pruefe()
 {
+    folgeArchiv();
     uebernimm();
     const Bereichspruefung pruefung = modell_.pruefe();
     zeige();

@@ -34,7 +34,7 @@ public:
 
     /// Fills fields and drop-downs anew from the archive of the screen.
     void fuelle();
-    /// Follows a change of the archive; what the form in view shows stays.
+    /// Follows a change of the archive, which a check does on its own; what the form in view shows stays.
     void folgeArchiv();
     /// Checks the fields. A message is shown; without a range the evaluation ends.
     std::optional<Ziehungsbereich> pruefe();

@@ -71,6 +71,11 @@ void Auswertebereich::zeigeBisZiehung()
     angabe_.bis = letztesJahr_;
 }
 
+bool Auswertebereich::gleichesArchiv(const Auswertebereich& anderer) const
+{
+    return erstes_ == anderer.erstes_ && letztes_ == anderer.letztes_ && anzahl_ == anderer.anzahl_;
+}
+
 void Auswertebereich::folge(Auswertebereich neuer)
 {
     const bool nachZiehung = angabe_.form == Bereichsform::BisZiehung;

@@ -70,6 +70,8 @@ public:
     /// "J": shows the form by years. The texts stay.
     void zeigeJahre() { angabe_.form = Bereichsform::Jahre; }
 
+    /// True if both were prefilled by an archive of the same years and as many draws.
+    bool gleichesArchiv(const Auswertebereich& anderer) const;
     /// Goes over to another archive, `neuer` being its prefilled range. What the form in view shows stays. A field out
     /// of sight is prefilled anew, so that it restricts nothing; only a ZiehungsNr that somebody chose stays there too.
     void folge(Auswertebereich neuer);

@@ -148,6 +148,7 @@ void frmABSTAND::werteAus()
         return;
     ergebnis_ = werteAbstandAus(umgebung().archiv, GewaehlteZahl, optZ->modus());
     fuelleListe();
+    Bezeichnung10->setText(qt(spielartGross(ergebnis_.Spielart)));
     Bezeichnung4->setText(qt(ergebnis_.ersteZiehung));
     Bezeichnung8->setNum(static_cast<int>(ergebnis_.treffer.size()));
     zeigeStand();

@@ -76,6 +76,11 @@ frmHJAHR::frmHJAHR(Umgebung& umgebung)
 
 void frmHJAHR::beimZeigen()
 {
+    zeigeStand();
+}
+
+void frmHJAHR::zeigeStand()
+{
     Bezeichnung1->setText(qt(spielartGross(umgebung().archiv.Spielart)));
     Bezeichnung3->setText(qt(gespeicherteZiehungen(umgebung().archiv)));
 }
@@ -87,6 +92,7 @@ void frmHJAHR::erzeuge(ZZModus modus)
         Lauf lauf(*this);
         if (!lauf)
             return;
+        zeigeStand();
         ergebnis_ = yearTable(umgebung().archiv, modus, optDatumOderWoche[0]->isChecked());
         fehler = legeSeiteAb(ordner(), datei(), jahrestabellenSeite(ergebnis_));
     }

@@ -17,6 +17,7 @@ public:
 
 private:
     void erzeuge(ZZModus modus);
+    void zeigeStand();
     void zeigeSeite();
     std::filesystem::path ordner() const;
     std::string datei() const;

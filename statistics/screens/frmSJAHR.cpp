@@ -111,6 +111,11 @@ frmSJAHR::frmSJAHR(Umgebung& umgebung)
 
 void frmSJAHR::beimZeigen()
 {
+    zeigeStand();
+}
+
+void frmSJAHR::zeigeStand()
+{
     const ZiehungsArchiv& archiv = umgebung().archiv;
     Bezeichnung10->setText(qt(spielartGross(archiv.Spielart)));
     Bezeichnung2->setVisible(istSamstag(archiv.Spielart));
@@ -139,6 +144,7 @@ void frmSJAHR::werteAus(int zahl, ZZModus modus)
 
 void frmSJAHR::zeigeErgebnis()
 {
+    zeigeStand();
     zeige(Liste1, lblMaximum, jahreszeilen(ergebnis_.proJahr));
     zeige(Liste2, lblMax2, wochenzeilen(ergebnis_.proWoche));
     Bezeichnung8->setNum(ergebnis_.proJahr.gesamt);

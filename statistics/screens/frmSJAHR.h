@@ -19,6 +19,7 @@ public:
 private:
     void waehleModus(ZZModus modus);
     void werteAus(int zahl, ZZModus modus);
+    void zeigeStand();
     void zeigeErgebnis();
     void zeigeDetails();
     void kopiere(const std::string& bericht);

@@ -99,12 +99,12 @@ frmSTAT1::frmSTAT1(Umgebung& umgebung)
 void frmSTAT1::beimZeigen()
 {
     Bezeichnung7->setText(qt(spielartGross(umgebung().archiv.Spielart)));
-    Befehl8->setVisible(umgebung().archiv.Spielart > Samstagslotto);
     zeigeStand();
 }
 
 void frmSTAT1::zeigeStand()
 {
+    Befehl8->setVisible(umgebung().archiv.Spielart > Samstagslotto);
     Bezeichnung6->setText(qt(gespeicherteZiehungen(umgebung().archiv)));
 }
 
@@ -135,12 +135,12 @@ void frmSTAT1::werteMittwochAus()
     if (!vonB)
         umgebung().menue->waehleSpielart(Mittwochslotto);
     bereich_->folgeArchiv();
-    zeigeStand();
     zeigeErgebnis();
 }
 
 void frmSTAT1::zeigeErgebnis()
 {
+    zeigeStand();
     const Extremwerte extreme = extremwerte(ergebnis_.haeufigkeit);
     bezeichnung114->loescheFarben();
     for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {

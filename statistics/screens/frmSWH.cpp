@@ -82,8 +82,6 @@ frmSWH::frmSWH(Umgebung& umgebung)
 
 void frmSWH::beimZeigen()
 {
-    Bezeichnung5->setText(qt(spielartGross(umgebung().archiv.Spielart)));
-    Bezeichnung6->setText(qt(gespeicherteZiehungen(umgebung().archiv)));
     werteAus(naechsteSpielwoche(umgebung().archiv), Option2->isChecked());
 }
 
@@ -100,10 +98,17 @@ void frmSWH::werteAus()
     if (!lauf)
         return;
     ergebnis_ = weekStatistics(umgebung().archiv, Kombi1->currentIndex() + 1, Option2->isChecked());
+    zeigeStand();
     Liste1->modell().fuelle(ziehungszeilen(ergebnis_));
     Liste2->modell().fuelle(zeilenNachHaeufigkeit(ergebnis_));
     Liste2->zeigeZeile(Liste2->zeilenzahl() - 1); // the most frequent
     Liste3->modell().fuelle(zeilenNachZahl(ergebnis_));
+}
+
+void frmSWH::zeigeStand()
+{
+    Bezeichnung5->setText(qt(spielartGross(umgebung().archiv.Spielart)));
+    Bezeichnung6->setText(qt(gespeicherteZiehungen(umgebung().archiv)));
 }
 
 bool frmSWH::kehrtZumMenueZurueck() const

@@ -18,6 +18,7 @@ public:
 
 private:
     void werteAus();
+    void zeigeStand();
 
     Wochenstatistik ergebnis_;
     QComboBox* Kombi1;

@@ -127,7 +127,15 @@ frmZuletzt::frmZuletzt(Umgebung& umgebung)
 void frmZuletzt::beimZeigen()
 {
     Bezeichnung5->setText(qt(spielartGross(umgebung().archiv.Spielart)));
+    folgeArchiv();
+}
+
+/// The choice of draws and what is told of the archive; costs nothing while that is the same.
+void frmZuletzt::folgeArchiv()
+{
     Befehl1->setVisible(umgebung().archiv.Spielart > Samstagslotto);
+    if (Bezeichnung2->text() != qt(gespeicherteZiehungenVonBis(umgebung().archiv)))
+        fuelleAuswahl();
 }
 
 void frmZuletzt::fuelleAuswahl()
@@ -178,13 +186,13 @@ void frmZuletzt::werteMittwochAus()
     ergaenzeMittwoch(ergebnis_, umgebung().archiv);
     if (!vonB)
         umgebung().menue->waehleSpielart(Mittwochslotto);
-    fuelleAuswahl();
     zeigeErgebnis();
     zeigeWochen();
 }
 
 void frmZuletzt::zeigeErgebnis()
 {
+    folgeArchiv();
     Bezeichnung5->setText(qt(spielLabel(ergebnis_)));
     const std::array modusknoepfe{Befehl5, Befehl6, Befehl7};
     zeigeGelaufen(ergebnis_.mittwochAB ? Befehl1 : modusknoepfe[zzStelle(ergebnis_.ZaehlModus)]);

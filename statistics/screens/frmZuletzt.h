@@ -28,6 +28,7 @@ private:
     void zeigeErgebnis();
     void zeigeTafel(ZuletztAnsicht ansicht);
     void uebernimmZiehung();
+    void folgeArchiv();
     void fuelleAuswahl();
     void drucke();
 

@@ -295,6 +295,17 @@ TEST_F(Abstandsbildschirm, DerBerichtIstDerDesErgebnissesAuchNachEinemAnderenArc
     EXPECT_EQ(buehne.zwischenablage.text(), vorher);
 }
 
+TEST_F(Abstandsbildschirm, EineAuswertungFolgtDemArchivDasDannGeladenIst)
+{
+    starte();
+    oeffne("frmABSTAND");
+    buehne.umgebung.menue->waehleSpielart(MittwochslottoB);
+    klicke(zahlfeld(13));
+    pruefe(treffer("MBLOTTO.DAT", 13, true, false));
+    EXPECT_EQ(lies("Bezeichnung10"), "MITTWOCHSLOTTO (B)");
+    EXPECT_EQ(lies("Bezeichnung58"), "757");
+}
+
 TEST_F(Abstandsbildschirm, BerichtetInDieZwischenablage)
 {
     schreibe("MALOTTO.DAT", {"1986,23,11,26,27,30,35,38,49,0", "1986,24,08,16,23,32,34,42,26,0"});

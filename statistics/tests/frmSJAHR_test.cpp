@@ -136,6 +136,18 @@ TEST_F(JahrUndWocheBildschirm, AllesFolgtDemErgebnisAuchNachEinemAnderenArchiv)
     EXPECT_EQ(zeigeAlles(), vorher);
 }
 
+TEST_F(JahrUndWocheBildschirm, EineAuswertungFolgtDemArchivDasDannGeladenIst)
+{
+    starte();
+    oeffne("frmSJAHR");
+    buehne.umgebung.menue->waehleSpielart(MittwochslottoB);
+    klicke("Bezeichnung6(13)");
+    EXPECT_EQ(lies("Bezeichnung10"), "MITTWOCHSLOTTO (B)");
+    EXPECT_EQ(lies("Bezeichnung58"), "757");
+    EXPECT_EQ(lies("Bezeichnung4"), "1986/23");
+    EXPECT_EQ(lies("Bezeichnung16"), "2000/48");
+}
+
 TEST_F(JahrUndWocheBildschirm, BerichteStehenInDerZwischenablage)
 {
     schreibeZweiJahre();

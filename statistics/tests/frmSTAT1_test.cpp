@@ -233,6 +233,24 @@ TEST_F(Haeufigkeitsbildschirm, NachAUndBVonBAusSchraenkenKeineVerborgenenJahreEi
     EXPECT_EQ(titel(), "Mittwochslotto : Auswertung von Ziehung 1 bis Ziehung 1000 , ohne Zusatzzahl");
 }
 
+TEST_F(Haeufigkeitsbildschirm, EineAuswertungFolgtDemArchivDasDannGeladenIst)
+{
+    starte();
+    klicke("Option3");
+    oeffne("frmSTAT1");
+    klicke("Befehl9");
+    buehne.umgebung.menue->waehleSpielart(Mittwochslotto);
+    setze("Text3", "1000");
+    klicke("Befehl2");
+    pruefe(zaehleText(datei("MALOTTO.DAT"), 1986, 2026, 1000, true, false));
+    EXPECT_EQ(lies("Bezeichnung7"), "MITTWOCHSLOTTO ");
+    EXPECT_TRUE(lies("Bezeichnung6").endsWith(QString::number(buehne.archiv.AnzahlZiehungen)));
+    buehne.umgebung.menue->waehleSpielart(Samstagslotto);
+    klicke("Befehl2");
+    pruefe(zaehleText(datei("SALOTTO.DAT"), 1955, 2026, 1000, true, false));
+    EXPECT_FALSE(sichtbar("Befehl8"));
+}
+
 TEST_F(Haeufigkeitsbildschirm, DerKnopfDesGezeigtenErgebnissesSiehtSoAus)
 {
     const QStringList knoepfe{"Befehl2", "Befehl3", "Befehl4", "Befehl8"};

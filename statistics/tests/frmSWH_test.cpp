@@ -35,6 +35,17 @@ TEST_F(Wochenbildschirm, OeffnetMitDerNaechstenWocheUndIhrenZiehungen)
     EXPECT_EQ(wochen.last(), "53");
 }
 
+TEST_F(Wochenbildschirm, EineAuswertungFolgtDemArchivDasDannGeladenIst)
+{
+    starte();
+    oeffne("frmSWH");
+    buehne.umgebung.menue->waehleSpielart(MittwochslottoB);
+    klicke("Option2");
+    EXPECT_EQ(lies("Bezeichnung5"), "MITTWOCHSLOTTO (B)");
+    EXPECT_TRUE(lies("Bezeichnung6").endsWith("Anzahl der Ziehungen: 757"));
+    EXPECT_TRUE(zeilen("Liste1").first().startsWith("1986/"));
+}
+
 TEST_F(Wochenbildschirm, EineAndereWocheZaehltNeu)
 {
     schreibeDreiZiehungen();

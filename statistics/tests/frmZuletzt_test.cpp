@@ -274,6 +274,20 @@ TEST_F(Zuletztbildschirm, DieWochenSindDieDesErgebnissesAuchNachEinemAnderenArch
         EXPECT_EQ(zelle(zahl), QString::number(grenze - letzte[static_cast<std::size_t>(zahl)])) << zahl;
 }
 
+TEST_F(Zuletztbildschirm, EineAuswertungFolgtDemArchivDasDannGeladenIst)
+{
+    starte();
+    klicke("Option3");
+    oeffne("frmZuletzt");
+    buehne.umgebung.menue->waehleSpielart(Mittwochslotto);
+    setze("Text1", "1000");
+    klicke("Befehl5");
+    EXPECT_EQ(lies("Bezeichnung5"), "MITTWOCHSLOTTO ");
+    EXPECT_TRUE(lies("Bezeichnung2").contains(QString::number(anzahl())));
+    EXPECT_EQ(bedienung.eintraege("cmbZ").zeilen.size(), anzahl());
+    EXPECT_TRUE(lies("cmbZ").endsWith("ZNr: 1000"));
+}
+
 TEST_F(Zuletztbildschirm, EineZuHoheAnzahlWirdBerichtigt)
 {
     starte();
