@@ -1,6 +1,7 @@
 #include "archive/tests/Archivbildschirmtest.h"
 
 #include <QFile>
+#include <QWidget>
 
 namespace {
 
