@@ -2,6 +2,7 @@
 
 #include "tools/buehne/Buehne.h"
 
+#include <QPoint>
 #include <QStringList>
 
 class QAction;
