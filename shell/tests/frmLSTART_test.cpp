@@ -1,4 +1,5 @@
 #include "shell/app/Menuetafel.h"
+#include "shell/app/frmLSTART.h"
 #include "shell/elements/Bildschirm.h"
 #include "testhilfen/Programmbuehne.h"
 
@@ -32,13 +33,14 @@ protected:
     }
 };
 
+void registriereWerkzeug(BildschirmVerzeichnis& bildschirme, const QString& name)
+{
+    bildschirme.registriere(name, [name](Umgebung& umgebung) { return std::make_unique<Werkzeug>(umgebung, name); });
+}
+
 class Auswahlmenue : public Programmbuehne {
 protected:
-    void registriere(const QString& name)
-    {
-        buehne.bildschirme.registriere(
-            name, [name](Umgebung& umgebung) { return std::make_unique<Werkzeug>(umgebung, name); });
-    }
+    void registriere(const QString& name) { registriereWerkzeug(buehne.bildschirme, name); }
 
     std::set<int> tipp()
     {
@@ -54,6 +56,20 @@ protected:
     QString status() { return lies("Bezeichnung2"); }
     const QString samstag = "*** Letzte eingetragene Ziehung in Gewinnzahl-Datei (SALOTTO.DAT; Samstagslotto) ->  "
                             "2026/46 vom Sa, 14.11.2026 ***";
+};
+
+/// A program that has two of its tools.
+class MenueFastOhneWerkzeuge : public Archivbuehne {
+protected:
+    MenueFastOhneWerkzeuge()
+        : Archivbuehne([](BildschirmVerzeichnis& bildschirme) {
+              bildschirme.registriere<frmLSTART>("frmLSTART");
+              registriereWerkzeug(bildschirme, "frmOnline");
+              registriereWerkzeug(bildschirme, "frmTA");
+          })
+    {}
+    void starte() override { starteProgramm(buehne.umgebung); }
+    QString status() { return lies("Bezeichnung2"); }
 };
 
 TEST_F(Auswahlmenue, BeginntAufSamstagslotto)
@@ -100,10 +116,8 @@ TEST_F(Auswahlmenue, SperrtDreiKnoepfeNurBeiMittwochB)
     }
 }
 
-TEST_F(Auswahlmenue, EinGrauerKnopfSagtWarum)
+TEST_F(MenueFastOhneWerkzeuge, EinGrauerKnopfSagtWarum)
 {
-    registriere("frmOnline");
-    registriere("frmTA");
     starte();
     EXPECT_TRUE(bedienbar("Command5"));
     EXPECT_FALSE(bedienbar("Befehl11"));
@@ -117,19 +131,16 @@ TEST_F(Auswahlmenue, EinGrauerKnopfSagtWarum)
     ueberfahre("Befehl18");
     EXPECT_TRUE(status().endsWith(" Speichert Tip's."));
     klicke("Option3");
-    for (const char* knopf : {"Befehl3", "Befehl18"}) {
-        ueberfahre(knopf);
-        EXPECT_TRUE(status().endsWith(
-            "  –  Die Ziehung B des Mittwochslottos wurde am 29.11.2000 zum letzten Mal ausgespielt."))
-            << knopf;
-    }
+    ueberfahre("Befehl18");
+    EXPECT_TRUE(
+        status().endsWith("  –  Die Ziehung B des Mittwochslottos wurde am 29.11.2000 zum letzten Mal ausgespielt."));
     klicke("Option4");
     ueberfahre("cmdGU");
     EXPECT_TRUE(status().endsWith("  –  Dieses Werkzeug gehört noch nicht zum Programm."));
     klicke("Option3");
     EXPECT_TRUE(bedienbar("Command5"));
     ueberfahre("Befehl2");
-    EXPECT_EQ(status(), "Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung 1986");
+    EXPECT_TRUE(status().startsWith("Berechnet die Häufigkeit der Gewinnzahlen seit 1. Ziehung 1986"));
 }
 
 TEST_F(Auswahlmenue, ZeigtUeberDerFormWiederDieLetzteZiehung)
