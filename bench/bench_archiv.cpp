@@ -1,7 +1,7 @@
-#include "archive/logic/Dateiinhalt.h"
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/Ziehungskalender.h"
 #include "bench/Archive.h"
+#include "shell/logic/Lesedatei.h"
 
 #include <array>
 #include <benchmark/benchmark.h>
@@ -97,8 +97,7 @@ void referenzNurBytes(benchmark::State& state)
 {
     for (auto _ : state)
         for (const char* name : kDateien)
-            benchmark::DoNotOptimize(
-                leseDateiinhalt(std::filesystem::path(ziehungsordner()) / name, 1U << 22U).bytes.data());
+            benchmark::DoNotOptimize(leseDatei(std::filesystem::path(ziehungsordner()) / name, 1U << 22U).bytes.data());
 }
 BENCHMARK(referenzNurBytes)->Unit(benchmark::kMicrosecond);
 

@@ -51,10 +51,11 @@ std::string pruefeZiehungsleser(std::string_view bytes)
 
 std::string pruefeStrukturpruefung(std::string_view bytes)
 {
-    const Strukturbericht bericht = pruefeStruktur(bytes, {});
+    const Strukturbericht bericht = pruefeStruktur({Dateistand::Gelesen, std::string(bytes)}, {});
     if (!bericht.vollstaendig)
         return "die Prüfung hielt von selbst an";
-    for (const std::string& zeile : bericht.fehlerzeilen) {
+    for (std::size_t nr = 0; nr < bericht.FalscheZiehungen; ++nr) {
+        const std::string zeile = bericht.fehlerzeile(nr);
         if (fehlernummer(zeile) == 0)
             return "eine Fehlerzeile ohne Nummer";
         const std::size_t anfang = zeile.find(" >> ") + 4;

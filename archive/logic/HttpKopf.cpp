@@ -10,12 +10,6 @@ namespace {
 
 constexpr std::string_view kAnfang = "HTTP/";
 constexpr std::string_view kLuft = " \t";
-constexpr std::string_view kZeilenende = "\r\n";
-
-bool istZiffer(char zeichen)
-{
-    return zeichen >= '0' && zeichen <= '9';
-}
 
 /// Takes the next line off, without its line end.
 std::string_view naechsteZeile(std::string_view& rest)

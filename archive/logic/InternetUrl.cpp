@@ -33,10 +33,6 @@ bool istBuchstabe(char zeichen)
 {
     return (zeichen >= 'a' && zeichen <= 'z') || (zeichen >= 'A' && zeichen <= 'Z');
 }
-bool istZiffer(char zeichen)
-{
-    return zeichen >= '0' && zeichen <= '9';
-}
 bool istSteuerzeichen(char zeichen)
 {
     const auto wert = static_cast<unsigned char>(zeichen);

@@ -1,12 +1,12 @@
 #include "archive/logic/Onlineaktualisierung.h"
 
-#include "archive/logic/Vorlaeufige.h"
 #include "archive/logic/ZiehungsArchiv.h"
 #include "archive/logic/Ziehungsdatei.h"
 #include "archive/logic/Ziehungsschreiber.h"
 #include "shell/logic/Dateien.h"
 #include "shell/logic/Dateisperre.h"
 #include "shell/logic/Texte.h"
+#include "shell/logic/Vorlaeufige.h"
 
 #include <chrono>
 #include <string_view>
@@ -99,13 +99,6 @@ bool istArbeitsname(const std::string& name)
             return true;
     const std::string klein = kleinbuchstaben(name);
     return klein.starts_with('.') || klein.ends_with(kAlteFassung);
-}
-
-/// The file, which from here on has that name if it exists.
-fs::path inRichtigerSchreibung(const fs::path& datei, const std::string& name)
-{
-    const fs::path richtig = datei.parent_path() / name;
-    return datei != richtig && existiert(datei) && !benenneUm(datei, richtig) ? datei : richtig;
 }
 
 } // namespace
@@ -243,7 +236,7 @@ Onlineausgang Onlineaktualisierung::legeZiehungsdatei(const fs::path& neue, cons
         return Onlineausgang::Abgewiesen;
     const fs::path ziel = platz.spielart == SpielartStart
                               ? platz.datei
-                              : inRichtigerSchreibung(platz.datei, std::string(ziehungsdateiName(platz.spielart)));
+                              : inRichtigerSchreibung(platz.datei, ziehungsdateiName(platz.spielart));
     // The same file once more: the content kept from before the last change is worth more than a second copy of this.
     if (!gleicherInhalt(neue, ziel) && !(bewahreAlteFassung(ziel) && kopiereDatei(neue, ziel)))
         return Onlineausgang::Abgewiesen;

@@ -1,9 +1,13 @@
 #include "archive/logic/Strukturpruefung.h"
 
 #include "shell/logic/Format.h"
+#include "shell/logic/Texte.h"
 #include "shell/logic/Zahlen.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
+#include <utility>
 
 const std::array<std::string_view, 41> kStrukturfehler{
     " ",
@@ -52,12 +56,9 @@ const std::array<std::string_view, 41> kStrukturfehler{
 namespace {
 
 constexpr std::size_t kSatzlaenge = 30;
-constexpr std::size_t kHoechstensGezeigt = 200; ///< characters of a faulty record in its error line
-
-constexpr bool istZiffer(char zeichen)
-{
-    return zeichen >= '0' && zeichen <= '9';
-}
+constexpr std::size_t kHoechstensGezeigt = 200;   ///< characters of a faulty record in its error line
+constexpr std::size_t kLesezeichenabstand = 2048; ///< bytes from one bookmark to the next, at least
+constexpr char kStrgZ = '\x1A';
 
 /// A test of one character of the record and the fault that it stands for. Positions count from 1.
 struct Zeichentest {
@@ -108,13 +109,6 @@ std::string kennung(std::string_view satz)
     return std::to_string(rundeZurGeraden(wert));
 }
 
-std::string fehlerzeile(int fehler, std::string_view vorherigerKorrekter, std::string_view satz)
-{
-    const std::string vorherige = vorherigerKorrekter.empty() ? "1955/4X" : kennung(vorherigerKorrekter);
-    return "Error " + Format(fehler, "00") + " nach Ziehung: " + vorherige + " >> " +
-           std::string(satz.substr(0, kHoechstensGezeigt)) + " <<";
-}
-
 /// Cuts the next line off; CR LF, CR and LF end one.
 std::string_view naechsteZeile(std::string_view& rest)
 {
@@ -125,12 +119,67 @@ std::string_view naechsteZeile(std::string_view& rest)
     return zeile;
 }
 
+/// Goes over the records of a file, from the first one or from a bookmark on.
+class Satzgang {
+public:
+    explicit Satzgang(std::string_view bytes, std::size_t ab = 0, std::size_t korrekter = kKeiner)
+        : bytes_(bytes),
+          rest_(bytes.substr(ab)),
+          korrekter_(korrekter)
+    {}
+
+    /// Steps to the next record. False behind the last one.
+    bool weiter()
+    {
+        if (rest_.empty())
+            return false;
+        if (ab_ != kKeiner && fehler_ == 0)
+            korrekter_ = ab_;
+        ab_ = bytes_.size() - rest_.size();
+        satz_ = naechsteZeile(rest_);
+        fehler_ = pruefeDatensatz(satz_);
+        return true;
+    }
+
+    std::string_view satz() const { return satz_; }
+    int fehler() const { return fehler_; }
+    std::size_t ab() const { return ab_; }
+    /// Offset of the last correct record before this one.
+    std::size_t korrekter() const { return korrekter_; }
+
+private:
+    static constexpr std::size_t kKeiner = std::string::npos;
+
+    std::string_view bytes_;
+    std::string_view rest_;
+    std::string_view satz_;
+    std::size_t ab_{kKeiner};
+    std::size_t korrekter_;
+    int fehler_{0};
+};
+
 std::string jahrUndWocheVon(std::string_view satz)
 {
     const auto teil = [satz](std::size_t ab, std::size_t laenge) {
         return satz.size() > ab ? satz.substr(ab, laenge) : std::string_view();
     };
     return std::string(teil(0, 4)) + "/" + std::string(teil(5, 2));
+}
+
+void merkeFehler(Strukturbericht& bericht, const Satzgang& gang)
+{
+    if (bericht.lesezeichen.empty() || gang.ab() - bericht.lesezeichen.back().ab >= kLesezeichenabstand)
+        bericht.lesezeichen.push_back({bericht.FalscheZiehungen, gang.ab(), gang.korrekter()});
+    ++bericht.FalscheZiehungen;
+}
+
+/// Where what is to be judged ends.
+std::size_t ende(const Dateiinhalt& inhalt)
+{
+    const std::size_t strgZ = inhalt.bytes.find(kStrgZ);
+    if (strgZ != std::string::npos)
+        return strgZ;
+    return inhalt.vollstaendig ? inhalt.bytes.size() : inhalt.bytes.find_last_of("\r\n") + 1;
 }
 
 } // namespace
@@ -153,28 +202,42 @@ int pruefeDatensatz(std::string_view satz)
     return pruefeZahlen(satz);
 }
 
-Strukturbericht pruefeStruktur(std::string_view bytes, const std::function<bool(const Strukturbericht&)>& zwischenstand)
+Strukturbericht pruefeStruktur(Dateiinhalt inhalt, const std::function<bool(const Strukturbericht&)>& zwischenstand)
 {
     Strukturbericht bericht;
-    std::string_view satz;
-    std::string_view VorherigeKorrekte;
+    const std::size_t laenge = ende(inhalt);
+    bericht.ganzeDatei = inhalt.vollstaendig || inhalt.bytes.find(kStrgZ) == laenge;
+    bericht.bytes = std::move(inhalt.bytes);
+    bericht.bytes.resize(laenge);
+    Satzgang gang(bericht.bytes);
     Takt takt([&](std::uint64_t) {
-        bericht.letzterSatz = jahrUndWocheVon(satz);
+        bericht.letzterSatz = jahrUndWocheVon(gang.satz());
         return !zwischenstand || zwischenstand(bericht);
     });
-    std::string_view rest = bytes.substr(0, bytes.find('\x1a'));
-    for (std::uint64_t nr = 1; !rest.empty() && bericht.vollstaendig; ++nr) {
-        satz = naechsteZeile(rest);
-        if (const int fehler = pruefeDatensatz(satz)) {
-            bericht.fehlerzeilen.push_back(fehlerzeile(fehler, VorherigeKorrekte, satz));
-        } else {
+    for (std::uint64_t nr = 1; bericht.vollstaendig && gang.weiter(); ++nr) {
+        if (gang.fehler() != 0)
+            merkeFehler(bericht, gang);
+        else
             ++bericht.KorrekteZiehungen;
-            VorherigeKorrekte = satz;
-        }
         bericht.vollstaendig = takt.schritt(nr);
     }
-    bericht.letzterSatz = jahrUndWocheVon(satz);
+    bericht.letzterSatz = jahrUndWocheVon(gang.satz());
     return bericht;
+}
+
+std::string Strukturbericht::fehlerzeile(std::size_t nr) const
+{
+    if (nr >= FalscheZiehungen)
+        return {};
+    const Lesezeichen& zeichen = *std::prev(std::ranges::upper_bound(lesezeichen, nr, {}, &Lesezeichen::nr));
+    Satzgang gang(bytes, zeichen.ab, zeichen.korrekter);
+    for (std::size_t noch = nr - zeichen.nr + 1; noch > 0 && gang.weiter();)
+        noch -= std::size_t{gang.fehler() != 0};
+    const std::string vorherige = gang.korrekter() == std::string::npos
+                                      ? "1955/4X"
+                                      : kennung(std::string_view(bytes).substr(gang.korrekter(), kSatzlaenge));
+    return "Error " + Format(gang.fehler(), "00") + " nach Ziehung: " + vorherige + " >> " +
+           std::string(gang.satz().substr(0, kHoechstensGezeigt)) + " <<";
 }
 
 int fehlernummer(std::string_view fehlerzeile)

@@ -28,6 +28,16 @@ std::string jahrUndWoche(const ZiehungsArchiv& archiv, std::size_t nr)
     return Format(archiv.jjjj[zeile], "0000") + "/" + Format(archiv.sw[zeile], "00");
 }
 
+const std::string& datumVon(const ZiehungsArchiv& archiv, std::size_t nr)
+{
+    return archiv.Datum[nr < archiv.Datum.size() ? nr : 0];
+}
+
+const std::string& datumAlleVon(const ZiehungsArchiv& archiv, std::size_t nr)
+{
+    return archiv.DatumAlle[nr < archiv.DatumAlle.size() ? nr : 0];
+}
+
 std::string gespeicherteZiehungen(const ZiehungsArchiv& archiv)
 {
     if (archiv.AnzahlZiehungen <= 0)

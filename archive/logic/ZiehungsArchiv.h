@@ -80,5 +80,10 @@ std::string_view erstesSpieljahr(std::int16_t spielart);
 /// "jjjj/sw" of a draw, such as "1955/41"; `nr` 0 and one beyond the columns give "0000/00".
 std::string jahrUndWoche(const ZiehungsArchiv& archiv, std::size_t nr);
 
+/// The date text of a draw, from `Datum` or, after a combined load, from `DatumAlle`; the empty text where there is
+/// none.
+const std::string& datumVon(const ZiehungsArchiv& archiv, std::size_t nr);
+const std::string& datumAlleVon(const ZiehungsArchiv& archiv, std::size_t nr);
+
 /// "Gespeicherte Ziehungen: 1955/41 bis: 2026/29    Anzahl der Ziehungen: 3693"; empty with an empty archive.
 std::string gespeicherteZiehungen(const ZiehungsArchiv& archiv);

@@ -1,31 +1,21 @@
 #include "archive/logic/Ziehungsdatei.h"
 
-#include "archive/logic/Dateiinhalt.h"
 #include "archive/logic/Ziehungskalender.h"
-#include "archive/logic/Ziehungsleser.h"
+#include "archive/logic/Ziehungssaetze.h"
 #include "shell/logic/Dateien.h"
 #include "shell/logic/Format.h"
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace {
 
-constexpr std::size_t kMaxSaetze = kMaxZiehungenJeDatei;
-
-// Room for 128 bytes a record, four times what one takes.
-constexpr std::size_t kMaxDateigroesse = 128 * kMaxSaetze;
-
-constexpr std::size_t kKuerzesterSatz = std::string_view("1,1,1,1,1,1,1,1,1,1\n").size();
-
 Dateiinhalt leseZiehungsdatei(const std::string& verzeichnis, std::string_view name)
 {
-    return leseDateiinhalt(findeDatei(verzeichnis, name), kMaxDateigroesse);
+    return leseDatei(findeDatei(verzeichnis, name), kGroessteZiehungsdatei);
 }
 
 std::size_t letzteNummer(const ZiehungsArchiv& archiv)
@@ -37,29 +27,6 @@ void leereSpalten(ZiehungsArchiv& archiv)
 {
     for (ZiehungsArchiv::Spalte* spalte : archiv.spalten())
         spalte->assign(1, 0);
-}
-
-struct Saetze {
-    std::vector<Ziehungssatz> ganze;
-    std::optional<Ziehungssatz> teilsatz; ///< what could be read of the record in which the file breaks off
-    bool fehlerfrei = false;              ///< read up to the end, and not too many
-};
-
-Saetze liesSaetze(const Dateiinhalt& inhalt)
-{
-    Saetze saetze;
-    saetze.ganze.reserve(std::min(inhalt.bytes.size() / kKuerzesterSatz + 1, kMaxSaetze));
-    Ziehungsleser leser(inhalt.bytes, inhalt.vollstaendig);
-    Ziehungssatz satz{};
-    Ziehungsleser::Ergebnis ergebnis = leser.lies(satz);
-    while (ergebnis == Ziehungsleser::Ergebnis::Satz && saetze.ganze.size() < kMaxSaetze) {
-        saetze.ganze.push_back(satz);
-        ergebnis = leser.lies(satz);
-    }
-    saetze.fehlerfrei = ergebnis == Ziehungsleser::Ergebnis::Ende;
-    if (!saetze.fehlerfrei && saetze.ganze.size() < kMaxSaetze)
-        saetze.teilsatz = satz;
-    return saetze;
 }
 
 /// Appends the records behind the draws in the columns.
@@ -125,7 +92,7 @@ std::size_t haengeTeilAn(ZiehungsArchiv& archiv, const Dateiinhalt& inhalt, std:
 {
     if (vorher == 0)
         leereSpalten(archiv);
-    haengeAn(archiv, liesSaetze(inhalt).ganze);
+    haengeAn(archiv, liesZiehungssaetze(inhalt).ganze);
     const std::size_t anzahl = letzteNummer(archiv) - vorher;
     merkeOhneSuperzahl(archiv, vorher, teil);
     archiv.AnzahlZiehungen = static_cast<std::int32_t>(anzahl);
@@ -168,7 +135,7 @@ void LadeZiehungsdatei(ZiehungsArchiv& archiv, const MeldeFehlendeDatei& melde)
         return;
 
     leereSpalten(archiv);
-    const Saetze saetze = liesSaetze(inhalt);
+    const Ziehungssaetze saetze = liesZiehungssaetze(inhalt);
     haengeAn(archiv, saetze.ganze);
     if (saetze.teilsatz)
         haengeAn(archiv, {&*saetze.teilsatz, 1});
@@ -180,7 +147,7 @@ void LadeZiehungsdatei(ZiehungsArchiv& archiv, const MeldeFehlendeDatei& melde)
 
 std::int32_t zaehleZiehungen(const std::filesystem::path& datei)
 {
-    const Saetze saetze = liesSaetze(leseDateiinhalt(datei, kMaxDateigroesse));
+    const Ziehungssaetze saetze = liesZiehungssaetze(leseDatei(datei, kGroessteZiehungsdatei));
     return saetze.fehlerfrei ? static_cast<std::int32_t>(saetze.ganze.size()) : 0;
 }
 

@@ -1,5 +1,7 @@
 #include "archive/logic/Ziehungsleser.h"
 
+#include "shell/logic/Texte.h"
+
 #include <cstddef>
 #include <limits>
 
@@ -15,11 +17,6 @@ bool istLeerzeichen(char zeichen)
 bool istZeilenende(char zeichen)
 {
     return zeichen == '\r' || zeichen == '\n';
-}
-
-bool istZiffer(char zeichen)
-{
-    return zeichen >= '0' && zeichen <= '9';
 }
 
 // "0" stands for any digit.
@@ -38,7 +35,8 @@ constexpr std::uint64_t kGroessterBetrag = std::numeric_limits<std::int32_t>::ma
 } // namespace
 
 Ziehungsleser::Ziehungsleser(std::string_view bytes, bool vollstaendig)
-    : stelle_(bytes.data()),
+    : anfang_(bytes.data()),
+      stelle_(bytes.data()),
       ende_(bytes.data() + bytes.size()),
       vollstaendig_(vollstaendig)
 {}
@@ -89,6 +87,7 @@ bool Ziehungsleser::liesZahl(std::int32_t& zahl)
         betrag = betrag * 10 + static_cast<unsigned char>(*stelle - '0');
     const bool gelesen = stelle != stelle_ && betrag <= grenze;
     stelle_ = stelle;
+    satzende_ = static_cast<std::size_t>(stelle - anfang_);
     if (!gelesen || !beendeWert())
         return false;
     const auto wert = static_cast<std::int64_t>(betrag);
@@ -115,6 +114,7 @@ bool Ziehungsleser::liesGenormt(Ziehungssatz& satz)
         satz[feld] = zweistellig(2 + 3 * feld);
     satz.back() = stelle_[29] - '0';
     stelle_ += kNormsatz.size();
+    satzende_ = static_cast<std::size_t>(stelle_ - anfang_) - kZeilenende.size();
     return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -27,6 +28,9 @@ public:
     /// Reads the next record. After a break the values read before it stand in `satz`, 0 in the others.
     Ergebnis lies(Ziehungssatz& satz);
 
+    /// Offset behind the last digit of the record just read.
+    std::size_t satzende() const { return satzende_; }
+
 private:
     void ueberspringeLeerzeichen();
     bool ueberspringeLeerzeilen();
@@ -34,7 +38,9 @@ private:
     bool liesZahl(std::int32_t& zahl);
     bool liesGenormt(Ziehungssatz& satz);
 
+    const char* anfang_;
     const char* stelle_;
     const char* ende_;
     bool vollstaendig_;
+    std::size_t satzende_{0};
 };

@@ -1,115 +1,138 @@
 #include "archive/logic/Ziehungsschreiber.h"
 
 #include "archive/logic/Ziehungsdatei.h"
-#include "shell/logic/Format.h"
+#include "archive/logic/Ziehungssaetze.h"
+#include "shell/logic/Dateianhang.h"
+#include "shell/logic/Dateisperre.h"
+#include "shell/logic/Lesedatei.h"
+#include "shell/logic/Texte.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <chrono>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kZeilenende = "\r\n";
+using enum Schreibausgang;
 
-/// An open file that is closed with the object.
-class OffeneDatei {
-public:
-    explicit OffeneDatei(const std::filesystem::path& datei)
-        : nummer_(::open(datei.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666))
-    {}
-    OffeneDatei(const OffeneDatei&) = delete;
-    OffeneDatei& operator=(const OffeneDatei&) = delete;
-    ~OffeneDatei()
-    {
-        if (nummer_ >= 0)
-            ::close(nummer_);
-    }
-    int nummer() const { return nummer_; }
+constexpr std::chrono::seconds kSperrzeit{3};
+constexpr std::string_view kGeduldet = " \t\r\n\x1A,"; ///< behind the last record
 
-private:
-    int nummer_;
-};
-
-DateiErgebnis letzterFehler()
+std::int32_t anzahl(const Ziehungssaetze& saetze)
 {
-    return {errno, std::strerror(errno)};
+    return static_cast<std::int32_t>(saetze.ganze.size());
 }
 
-void hebeSchreibschutzAuf(const std::filesystem::path& datei)
+/// Why the lock was not to be had.
+Schreibergebnis ohneSperre(const fs::path& datei)
 {
     std::error_code fehler;
-    if (std::filesystem::is_regular_file(datei, fehler))
-        std::filesystem::permissions(datei, std::filesystem::perms::owner_write, std::filesystem::perm_options::add,
-                                     fehler);
+    return {fs::is_directory(datei.parent_path(), fehler) ? Besetzt : Schreibfehler};
 }
 
-/// True if the file is empty or its last byte ends a line.
-bool endetMitZeilenende(int nummer, off_t laenge)
+Schreibergebnis bestaetige(const fs::path& datei, const std::string& erwartet, std::int32_t nr)
 {
-    char letztes = '\n';
-    if (laenge > 0 && ::pread(nummer, &letztes, 1, laenge - 1) != 1)
-        return false;
-    return letztes == '\n' || letztes == '\r';
+    const Dateiinhalt inhalt = leseDatei(datei, erwartet.size());
+    return {inhalt.ganz() && inhalt.bytes == erwartet ? Gut : NichtBestaetigt, nr};
+}
+
+/// What stands in the place of all from `ab` on once a record is appended.
+struct Anhang {
+    std::size_t ab{0};
+    std::string bytes;
+};
+
+Anhang anhang(std::string_view alt, std::size_t satzende, std::string_view satz)
+{
+    Anhang neu{satzende, std::string(satz).append(kZeilenende)};
+    const std::string_view dahinter = alt.substr(satzende);
+    if (satzende == 0)
+        return neu;
+    if (dahinter.starts_with(kZeilenende))
+        neu.ab += kZeilenende.size();
+    else if (dahinter.starts_with('\n') || dahinter.starts_with('\r'))
+        ++neu.ab;
+    else
+        neu.bytes.insert(0, kZeilenende);
+    return neu;
+}
+
+/// To be called by the one who holds the lock, as the next one.
+Schreibergebnis haengeAn(const fs::path& datei, std::string_view satz)
+{
+    const Dateiinhalt inhalt = leseDatei(datei, kGroessteZiehungsdatei);
+    if (inhalt.stand == Dateistand::Unlesbar)
+        return {Schreibfehler};
+    const Ziehungssaetze vorher = liesZiehungssaetze(inhalt);
+    if (!vorher.fehlerfrei)
+        return {Unlesbar, anzahl(vorher)};
+    const Anhang neu = anhang(inhalt.bytes, vorher.ende, satz);
+    const std::string erwartet = inhalt.bytes.substr(0, neu.ab) + neu.bytes;
+    const Ziehungssaetze nachher = liesZiehungssaetze(erwartet);
+    if (!nachher.fehlerfrei || anzahl(nachher) != anzahl(vorher) + 1)
+        return {Schreibfehler};
+    const bool gehtVerloren = inhalt.bytes.find_first_not_of(kGeduldet, neu.ab) != std::string::npos;
+    if ((gehtVerloren && !bewahreAlteFassung(datei)) || !ersetzeDateiende(datei, neu.ab, neu.bytes))
+        return {Schreibfehler};
+    return bestaetige(datei, erwartet, anzahl(nachher));
+}
+
+std::vector<Ziehungssatz> saetzeAus(const ZiehungsArchiv& archiv)
+{
+    std::vector<Ziehungssatz> saetze;
+    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr)
+        saetze.push_back({archiv.jjjj[nr], archiv.sw[nr], archiv.z1[nr], archiv.z2[nr], archiv.z3[nr], archiv.z4[nr],
+                          archiv.z5[nr], archiv.z6[nr], archiv.zz[nr], archiv.s[nr]});
+    return saetze;
+}
+
+Schreibergebnis schreibeNeu(const ZiehungsArchiv& archiv)
+{
+    const std::string_view name = ziehungsdateiName(archiv.Spielart);
+    const fs::path gefunden = findeDatei(archiv.ProgrammVerzeichnis, name);
+    const Dateiinhalt inhalt = leseDatei(gefunden, kGroessteZiehungsdatei);
+    Ziehungssaetze saetze = liesZiehungssaetze(inhalt);
+    if (inhalt.stand == Dateistand::Fehlt)
+        saetze.ganze = saetzeAus(archiv);
+    const bool leer = inhalt.stand == Dateistand::Fehlt && saetze.ganze.empty();
+    if (leer || inhalt.stand == Dateistand::Unlesbar || !saetze.fehlerfrei)
+        return {Unlesbar, anzahl(saetze)};
+    std::string bytes;
+    for (const Ziehungssatz& satz : saetze.ganze)
+        bytes.append(datensatz(satz)).append(kZeilenende);
+    const fs::path datei = inRichtigerSchreibung(gefunden, name);
+    if (!bewahreAlteFassung(datei) || !schreibeDatei(datei, bytes))
+        return {Schreibfehler};
+    return bestaetige(datei, bytes, anzahl(saetze));
 }
 
 } // namespace
 
-std::string datensatz(const ZiehungsArchiv& archiv, std::size_t nr)
+Schreibergebnis haengeZiehungAn(const fs::path& datei, std::string_view satz, const Sperrpause& sperrpause)
 {
-    std::string satz = Format(archiv.jjjj[nr], "0000") + "," + Format(archiv.sw[nr], "00");
-    for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
-        satz += "," + Format(zahl, "00");
-    return satz + "," + Format(archiv.zz[nr], "00") + "," + Format(archiv.s[nr], "0");
+    const auto sperre = Dateisperre::nimm(datei, kSperrzeit, sperrpause);
+    return sperre ? haengeAn(datei, satz) : ohneSperre(datei);
 }
 
-DateiErgebnis haengeZeileAn(const std::filesystem::path& datei, std::string_view zeile)
+Schreibergebnis erzeugeZiehungsdatei(const ZiehungsArchiv& archiv, const Sperrpause& sperrpause)
 {
-    hebeSchreibschutzAuf(datei);
-    const OffeneDatei offen(datei);
-    struct stat stand {};
-    if (offen.nummer() < 0 || ::fstat(offen.nummer(), &stand) != 0)
-        return letzterFehler();
-    if (!S_ISREG(stand.st_mode))
-        return {EISDIR, std::strerror(EISDIR)};
+    const fs::path datei = findeDatei(archiv.ProgrammVerzeichnis, ziehungsdateiName(archiv.Spielart));
+    const auto sperre = Dateisperre::nimm(datei, kSperrzeit, sperrpause);
+    return sperre ? schreibeNeu(archiv) : ohneSperre(datei);
+}
 
-    std::string bytes(endetMitZeilenende(offen.nummer(), stand.st_size) ? "" : kZeilenende);
-    bytes.append(zeile).append(kZeilenende);
-    // One call writes the whole line, so that an end of the program leaves all of it or nothing.
-    const ssize_t geschrieben = ::pwrite(offen.nummer(), bytes.data(), bytes.size(), stand.st_size);
-    if (geschrieben == static_cast<ssize_t>(bytes.size()) && ::fsync(offen.nummer()) == 0)
+DateiErgebnis bewahreAlteFassung(const fs::path& datei)
+{
+    const Lesedatei alte(datei);
+    if (alte.stand() == Dateistand::Fehlt || (alte.fehler() == 0 && alte.laenge() == 0))
         return {};
-    DateiErgebnis ergebnis = geschrieben < 0 ? letzterFehler() : DateiErgebnis{ENOSPC, std::strerror(ENOSPC)};
-    if (::ftruncate(offen.nummer(), stand.st_size) != 0)
-        ergebnis.meldung += std::string("; ") + std::strerror(errno);
-    return ergebnis;
-}
-
-DateiErgebnis bewahreAlteFassung(const std::filesystem::path& datei)
-{
+    fs::path kopie = datei;
+    kopie += ".alt";
     std::error_code fehler;
-    if (!std::filesystem::exists(datei, fehler))
+    if (zaehleZiehungen(datei) == 0 && fs::exists(kopie, fehler))
         return {};
-    constexpr std::size_t kGroessteZiehungsdatei = std::size_t{64} << 20;
-    const auto bytes = leseDatei(datei, kGroessteZiehungsdatei);
-    if (!bytes)
-        return {EIO, std::strerror(EIO)};
-    std::filesystem::path alte = datei;
-    alte += ".alt";
-    const bool ohneZiehungen = zaehleZiehungen(datei) == 0;
-    if (bytes->empty() || (ohneZiehungen && std::filesystem::exists(alte, fehler)))
-        return {};
-    return schreibeDatei(alte, *bytes);
-}
-
-DateiErgebnis schreibeZiehungsdatei(const std::filesystem::path& datei, const ZiehungsArchiv& archiv)
-{
-    if (DateiErgebnis ergebnis = bewahreAlteFassung(datei); !ergebnis)
-        return ergebnis;
-    std::string bytes;
-    const auto anzahl = static_cast<std::size_t>(archiv.AnzahlZiehungen);
-    for (std::size_t nr = 1; nr <= anzahl; ++nr)
-        bytes.append(datensatz(archiv, nr)).append(kZeilenende);
-    return schreibeDatei(datei, bytes);
+    return kopiereDatei(datei, kopie);
 }

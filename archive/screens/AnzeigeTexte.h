@@ -43,4 +43,16 @@ inline constexpr auto kSchreibfehler =
     "1. Die Ziehungsdateien befinden sich auf einen schreibgeschützten Datenträger.\n"
     "2. Sie besitzen nicht die erforderlichen Rechte um in diesen Ordner zu schreiben.";
 
+inline constexpr auto kBesetzt =
+    "Die Ziehungsdatei %1 wird gerade von einem anderen Programm geändert. Es wurde nichts gespeichert.\n"
+    "Bitte versuchen Sie es noch einmal.";
+
+inline constexpr auto kUnlesbar =
+    "Die Ziehungsdatei %1 kann nicht ganz gelesen werden (lesbare Ziehungen: %2). Es wurde nichts gespeichert.\n"
+    "Korrigieren Sie die Datei mit einem Editor. Die Strukturprüfung nennt die fehlerhaften Datensätze.";
+
+inline constexpr auto kNichtBestaetigt =
+    "Die Ziehungsdatei %1 enthält nach dem Speichern nicht, was gespeichert wurde. Bitte prüfen Sie die Datei und den "
+    "Datenträger.";
+
 } // namespace AnzeigeTexte

@@ -1,17 +1,24 @@
 #include "archive/screens/Ziehungsspeicher.h"
 
+#include "archive/logic/Ziehungskalender.h"
 #include "archive/logic/Ziehungsschreiber.h"
 #include "archive/screens/AnzeigeTexte.h"
 #include "archive/screens/Editor.h"
 #include "archive/screens/Spielartlader.h"
-#include "shell/elements/Umgebung.h"
+#include "shell/elements/Bildschirm.h"
+#include "shell/elements/Lauf.h"
 #include "shell/elements/Utf8.h"
+#include "shell/logic/Dateianhang.h"
+#include "shell/logic/Dateisperre.h"
 
+#include <chrono>
 #include <filesystem>
+#include <optional>
 
 namespace {
 
 constexpr auto kSicherung = "sa-mi-mib.dat";
+constexpr std::chrono::milliseconds kSicherungszeit{500};
 
 bool bestaetigt(Umgebung& umgebung, const NeueZiehung& ziehung, const QString& spiel)
 {
@@ -27,38 +34,75 @@ bool bestaetigt(Umgebung& umgebung, const NeueZiehung& ziehung, const QString& s
 }
 
 /// The log is only ever added to where it already exists; without it nothing is missing.
-void ergaenzeSicherung(const ZiehungsArchiv& archiv, const NeueZiehung& ziehung)
+void ergaenzeSicherung(const ZiehungsArchiv& archiv, const NeueZiehung& ziehung, std::int32_t nr)
 {
     const std::filesystem::path sicherung = findeDatei(archiv.ProgrammVerzeichnis, kSicherung);
     std::error_code fehler;
     if (!std::filesystem::is_regular_file(sicherung, fehler))
         return;
-    const std::string& datum = archiv.Datum[static_cast<std::size_t>(archiv.AnzahlZiehungen)];
-    haengeZeileAn(sicherung, sicherungszeile(ziehung, archiv.Spielart, datum));
+    const auto sperre = Dateisperre::nimm(sicherung, kSicherungszeit);
+    const auto tag = istSamstag(archiv.Spielart) ? samstagsZiehung(nr) : mittwochsZiehung(nr);
+    if (sperre)
+        haengeZeileAn(sicherung, sicherungszeile(ziehung, archiv.Spielart, datumText(tag)));
 }
 
-bool geschrieben(Umgebung& umgebung, const DateiErgebnis& ergebnis)
+QString fehlertext(const Schreibergebnis& ergebnis, const QString& datei)
 {
-    if (!ergebnis)
-        umgebung.boxen.info(kProgrammtitel, AnzeigeTexte::kSchreibfehler);
-    return ergebnis.gut();
+    switch (ergebnis.ausgang) {
+    case Schreibausgang::Besetzt:
+        return QString(AnzeigeTexte::kBesetzt).arg(datei);
+    case Schreibausgang::Unlesbar:
+        return QString(AnzeigeTexte::kUnlesbar).arg(datei).arg(ergebnis.nr);
+    case Schreibausgang::NichtBestaetigt:
+        return QString(AnzeigeTexte::kNichtBestaetigt).arg(datei);
+    case Schreibausgang::Schreibfehler:
+    case Schreibausgang::Gut:
+        break;
+    }
+    return AnzeigeTexte::kSchreibfehler;
+}
+
+/// Changes the active Ziehungsdatei; the screen runs while that waits for another program. Nothing, behind a box, after
+/// an error.
+template <class Schreibe> std::optional<std::int32_t> schreibeMitPause(Bildschirm& bildschirm, Schreibe schreibe)
+{
+    Umgebung& umgebung = bildschirm.umgebung();
+    Schreibergebnis ergebnis;
+    {
+        Lauf lauf(bildschirm);
+        if (!lauf)
+            return std::nullopt;
+        ergebnis = schreibe([&lauf] { return lauf.weiter(); });
+    }
+    if (ergebnis.ausgang == Schreibausgang::Gut)
+        return ergebnis.nr;
+    umgebung.boxen.info(kProgrammtitel, fehlertext(ergebnis, qt(ziehungsdateiName(umgebung.archiv.Spielart))));
+    return std::nullopt;
 }
 
 } // namespace
 
-bool speichereZiehung(Umgebung& umgebung, const NeueZiehung& ziehung, const QString& spiel)
+bool speichereZiehung(Bildschirm& bildschirm, const NeueZiehung& ziehung, const QString& spiel)
 {
+    Umgebung& umgebung = bildschirm.umgebung();
     if (!bestaetigt(umgebung, ziehung, spiel))
         return false;
-    const std::string datei = utf8(aktiveZiehungsdatei(umgebung));
-    if (!geschrieben(umgebung, haengeZeileAn(datei, neuerDatensatz(ziehung))))
+    const auto nr = schreibeMitPause(bildschirm, [&](const Sperrpause& pause) {
+        return haengeZiehungAn(utf8(aktiveZiehungsdatei(umgebung)), neuerDatensatz(ziehung), pause);
+    });
+    if (!nr)
         return false;
     ladeSpielart(umgebung, umgebung.archiv.Spielart);
-    ergaenzeSicherung(umgebung.archiv, ziehung);
+    ergaenzeSicherung(umgebung.archiv, ziehung, *nr);
     return true;
 }
 
-bool erzeugeZiehungsdatei(Umgebung& umgebung)
+bool erzeugeZiehungsdatei(Bildschirm& bildschirm)
 {
-    return geschrieben(umgebung, schreibeZiehungsdatei(utf8(aktiveZiehungsdatei(umgebung)), umgebung.archiv));
+    Umgebung& umgebung = bildschirm.umgebung();
+    const auto nr = schreibeMitPause(
+        bildschirm, [&](const Sperrpause& pause) { return erzeugeZiehungsdatei(umgebung.archiv, pause); });
+    if (nr)
+        ladeSpielart(umgebung, umgebung.archiv.Spielart);
+    return nr.has_value();
 }

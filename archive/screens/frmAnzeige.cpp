@@ -232,7 +232,7 @@ void frmAnzeige::speichere()
         return;
     }
     const QString datei = dateiname();
-    if (!speichereZiehung(umgebung(), *ziehung, Bezeichnung13->text()))
+    if (!speichereZiehung(*this, *ziehung, Bezeichnung13->text()))
         return;
     frischeAuf();
     Eingabe->leere();
@@ -243,12 +243,16 @@ void frmAnzeige::speichere()
 
 void frmAnzeige::erzeugeDatei()
 {
-    if (erzeugeZiehungsdatei(umgebung()))
-        setzeTitel("Die Datei " + dateiname() + " wurde erzeugt.");
+    if (!erzeugeZiehungsdatei(*this))
+        return;
+    frischeAuf();
+    setzeTitel("Die Datei " + dateiname() + " wurde erzeugt.");
 }
 
 void frmAnzeige::schalteAufMenue(std::int16_t spielart)
 {
+    if (laeuft())
+        return;
     const WarteAnzeige warten(*this);
     umgebung().menue->waehleSpielart(spielart);
     Bezeichnung13->setText(spielname(spielart));
@@ -257,6 +261,8 @@ void frmAnzeige::schalteAufMenue(std::int16_t spielart)
 
 void frmAnzeige::schalteAufMittwochB()
 {
+    if (laeuft())
+        return;
     ladeSpielart(umgebung(), MittwochslottoB);
     Bezeichnung13->setText("MITTWOCHSLOTTO (B)");
     frischeAuf();
@@ -264,6 +270,8 @@ void frmAnzeige::schalteAufMittwochB()
 
 void frmAnzeige::ladeNeu()
 {
+    if (laeuft())
+        return;
     const WarteAnzeige warten(*this, "Die 'Historischen Ziehungszahlen' werden aktualisiert und neu geladen...");
     ladeSpielart(umgebung(), umgebung().archiv.Spielart);
     frischeAuf();

@@ -1,6 +1,5 @@
 #include "archive/screens/frmlana.h"
 
-#include "archive/logic/Dateiinhalt.h"
 #include "archive/logic/ZiehungsArchiv.h"
 #include "archive/screens/Editor.h"
 #include "shell/elements/Infotafel.h"
@@ -8,9 +7,14 @@
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
+#include "shell/logic/Format.h"
+#include "shell/logic/Lesedatei.h"
 
 #include <QLabel>
 #include <QPushButton>
+
+#include <cerrno>
+#include <utility>
 
 namespace {
 
@@ -33,6 +37,27 @@ const std::vector<std::string> kFormat{
     "Superzahl). Gefundene Fehler können mit einem Editor oder einer",
     "Textverarbeitung (Write/Wordpad) korrigiert werden.",
 };
+
+QString grund(int fehler)
+{
+    if (fehler == EISDIR)
+        return "An ihrer Stelle liegt ein Ordner.";
+    if (fehler == EACCES || fehler == EPERM)
+        return "Sie besitzen nicht die erforderlichen Rechte um sie zu lesen.";
+    return "Sie ist keine gewöhnliche Datei, oder der Datenträger ist gestört.";
+}
+
+QString nichtGeprueft(const QString& datei, int fehler)
+{
+    return QString("Die Ziehungsdatei %1 kann nicht gelesen werden und wurde nicht geprüft.\n%2")
+        .arg(datei, grund(fehler));
+}
+
+QString nurAnfangGeprueft(const QString& datei)
+{
+    return QString("Die Ziehungsdatei %1 ist länger als %2 Zeichen. Was dahinter steht, wurde nicht geprüft.")
+        .arg(datei, qt(Format(kGroessteDatei, "#,###,###")));
+}
 
 } // namespace
 
@@ -117,30 +142,36 @@ void frmlana::pruefe()
     if (!lauf)
         return;
     leereErgebnis();
-    const Dateiinhalt inhalt = leseDateiinhalt(utf8(ziehungsdatei(umgebung(), spielart_)), kGroessteDatei);
+    Dateiinhalt inhalt = leseDatei(utf8(ziehungsdatei(umgebung(), spielart_)), kGroessteDatei);
     if (inhalt.stand == Dateistand::Fehlt) {
         umgebung().boxen.info(kProgrammtitel,
                               "ERROR 53: Die Ziehungsdatei xxLOTTO.DAT wurde nicht gefunden. Die Datei xxLOTTO.DAT muß "
                               "sich im gleichen Verzeichnis wie das Programm TOMBRIX.EXE befinden.");
         return;
     }
-    ergebnis_ = pruefeStruktur(inhalt.bytes, [&](const Strukturbericht& stand) {
+    if (inhalt.stand == Dateistand::Unlesbar) {
+        umgebung().boxen.info(kProgrammtitel, nichtGeprueft(Ziehungsdatei, inhalt.fehler));
+        return;
+    }
+    ergebnis_ = pruefeStruktur(std::move(inhalt), [&](const Strukturbericht& stand) {
         Bezeichnung6->setText(qt(stand.letzterSatz));
         return lauf.weiter();
     });
     zeigeErgebnis();
+    if (!ergebnis_.ganzeDatei)
+        umgebung().boxen.info(kProgrammtitel, nurAnfangGeprueft(Ziehungsdatei));
 }
 
 void frmlana::zeigeErgebnis()
 {
-    const std::size_t falsche = ergebnis_.fehlerzeilen.size();
+    const std::size_t falsche = ergebnis_.FalscheZiehungen;
     Bezeichnung6->setText(qt(ergebnis_.letzterSatz));
     Bezeichnung4->setText(kKorrekte + QString(" ") + QString::number(ergebnis_.KorrekteZiehungen));
     Bezeichnung5->setText(kFalsche + QString(" ") + QString::number(falsche) +
                           (falsche > 0 ? " >> Zur Fehlerbeschreibung -> klicke auf Fehlerlzeile <<" : ""));
     if (falsche > 0)
-        Liste1->modell().fuelle(ergebnis_.fehlerzeilen);
-    else
+        Liste1->modell().aufAnfrage(falsche, [this](std::size_t nr) { return ergebnis_.fehlerzeile(nr); });
+    else if (ergebnis_.allesRichtig())
         Liste1->modell().fuelle({std::string(kStrukturRichtig)});
 }
 

@@ -15,7 +15,15 @@ std::string mit(std::size_t stelle, const std::string& text)
 
 Strukturbericht pruefe(const std::string& bytes)
 {
-    return pruefeStruktur(bytes, {});
+    return pruefeStruktur({Dateistand::Gelesen, bytes}, {});
+}
+
+std::vector<std::string> fehlerzeilen(const Strukturbericht& bericht)
+{
+    std::vector<std::string> zeilen;
+    for (std::size_t nr = 0; nr < bericht.FalscheZiehungen; ++nr)
+        zeilen.push_back(bericht.fehlerzeile(nr));
+    return zeilen;
 }
 
 TEST(Datensatz, OhneFehler)
@@ -93,15 +101,15 @@ TEST(Struktur, FehlerzeileNenntDenSatzDavor)
     const Strukturbericht bericht =
         pruefe("falsch\r\n1998,13,02,08,10,12,22,35,46,3\r\nkurz\r\n1998,51,02,08,10,12,22,35,46,3\r\n1\r\n");
     EXPECT_EQ(bericht.KorrekteZiehungen, 2);
-    EXPECT_EQ(bericht.fehlerzeilen, (std::vector<std::string>{"Error 01 nach Ziehung: 1955/4X >> falsch <<",
-                                                              "Error 01 nach Ziehung: 1998 >> kurz <<",
-                                                              "Error 02 nach Ziehung: 1999 >> 1 <<"}));
+    EXPECT_EQ(fehlerzeilen(bericht), (std::vector<std::string>{"Error 01 nach Ziehung: 1955/4X >> falsch <<",
+                                                               "Error 01 nach Ziehung: 1998 >> kurz <<",
+                                                               "Error 02 nach Ziehung: 1999 >> 1 <<"}));
 }
 
 TEST(Struktur, DieKennungRundetHalbeZurGeradenZahl)
 {
     const auto kennungNach = [](const std::string& jahrWoche) {
-        return pruefe(jahrWoche + ",02,08,10,12,22,35,46,3\r\nx").fehlerzeilen.at(0);
+        return pruefe(jahrWoche + ",02,08,10,12,22,35,46,3\r\nx").fehlerzeile(0);
     };
     EXPECT_EQ(kennungNach("1998,50"), "Error 01 nach Ziehung: 1998 >> x <<");
     EXPECT_EQ(kennungNach("1999,50"), "Error 01 nach Ziehung: 2000 >> x <<");
@@ -112,18 +120,69 @@ TEST(Struktur, DieKennungRundetHalbeZurGeradenZahl)
 TEST(Struktur, LeereDateiUndZeilenenden)
 {
     EXPECT_EQ(pruefe("").KorrekteZiehungen, 0);
-    EXPECT_TRUE(pruefe("").fehlerzeilen.empty());
+    EXPECT_EQ(pruefe("").FalscheZiehungen, 0u);
+    EXPECT_TRUE(pruefe("").allesRichtig());
     EXPECT_EQ(pruefe(kRichtig).KorrekteZiehungen, 1);
     EXPECT_EQ(pruefe(kRichtig + "\n" + kRichtig + "\r" + kRichtig + "\r\n").KorrekteZiehungen, 3);
-    EXPECT_EQ(pruefe(kRichtig + "\r\n\r\n").fehlerzeilen.size(), 1u);
-    EXPECT_TRUE(pruefe(kRichtig + "\r\n\x1a").fehlerzeilen.empty());
+    EXPECT_EQ(pruefe(kRichtig + "\r\n\r\n").FalscheZiehungen, 1u);
+    EXPECT_EQ(pruefe(kRichtig + "\r\n\x1a").FalscheZiehungen, 0u);
 }
 
-TEST(Struktur, EineRiesigeZeileWirdGekuerztGezeigt)
+TEST(Struktur, EineLangeZeileWirdBis200ZeichenGezeigt)
 {
-    const Strukturbericht bericht = pruefe(std::string(1 << 20, '7'));
-    ASSERT_EQ(bericht.fehlerzeilen.size(), 1u);
-    EXPECT_LT(bericht.fehlerzeilen[0].size(), 300u);
+    const auto gezeigt = [](std::size_t laenge) { return pruefe(std::string(laenge, '7')).fehlerzeile(0); };
+    const std::string zeile = "Error 03 nach Ziehung: 1955/4X >> " + std::string(200, '7') + " <<";
+    EXPECT_EQ(gezeigt(199).size(), zeile.size() - 1);
+    EXPECT_EQ(gezeigt(200), zeile);
+    EXPECT_EQ(gezeigt(201), zeile);
+    EXPECT_EQ(gezeigt(1 << 20), zeile);
+}
+
+/// The report finds the lines of far more faults than it keeps places.
+TEST(Struktur, JedeFehlerzeileStehtAnIhremPlatz)
+{
+    std::string bytes;
+    std::vector<std::string> erwartet;
+    std::string kennung = "1955/4X";
+    for (int i = 0; i < 30'000; ++i) {
+        if (i % 3 == 2) {
+            kennung = std::to_string(1960 + i / 1000);
+            bytes += kennung + ",13,02,08,10,12,22,35,46,3\r\n";
+            continue;
+        }
+        const std::string satz = i % 3 == 0 ? "" : std::to_string(i);
+        bytes += satz + "\n";
+        erwartet.push_back((satz.empty() ? "Error 01" : "Error 02") + (" nach Ziehung: " + kennung) + " >> " + satz +
+                           " <<");
+    }
+    const Strukturbericht bericht = pruefe(bytes);
+    EXPECT_EQ(bericht.KorrekteZiehungen, 10'000);
+    EXPECT_EQ(fehlerzeilen(bericht), erwartet);
+    EXPECT_EQ(bericht.fehlerzeile(20'000), "");
+    EXPECT_LT(bericht.lesezeichen.size(), 300u);
+}
+
+TEST(Struktur, LauterLeerzeilenBrauchenKaumPlatz)
+{
+    constexpr std::size_t kViele = std::size_t{16} << 20;
+    const Strukturbericht bericht = pruefe(std::string(kViele, '\n'));
+    EXPECT_EQ(bericht.FalscheZiehungen, kViele);
+    EXPECT_EQ(bericht.fehlerzeile(kViele - 1), "Error 01 nach Ziehung: 1955/4X >>  <<");
+    EXPECT_LT(bericht.lesezeichen.size() * sizeof(Strukturbericht::Lesezeichen), std::size_t{1} << 20);
+}
+
+TEST(Struktur, VonEinerAbgeschnittenenDateiGiltDieLetzteZeileNicht)
+{
+    const auto pruefeAnfang = [](const std::string& bytes) {
+        return pruefeStruktur({Dateistand::Gelesen, bytes, false}, {});
+    };
+    const Strukturbericht bericht = pruefeAnfang(kRichtig + "\r\n2024,3");
+    EXPECT_EQ(bericht.KorrekteZiehungen, 1);
+    EXPECT_EQ(bericht.FalscheZiehungen, 0u);
+    EXPECT_FALSE(bericht.ganzeDatei);
+    EXPECT_FALSE(bericht.allesRichtig());
+    EXPECT_EQ(pruefeAnfang("7777").FalscheZiehungen, 0u);
+    EXPECT_TRUE(pruefeAnfang(kRichtig + "\r\n\x1a" + "7777").allesRichtig()) << "the file ends in what was read";
 }
 
 TEST(Struktur, LaesstSichAnhalten)
@@ -131,8 +190,10 @@ TEST(Struktur, LaesstSichAnhalten)
     std::string bytes;
     for (int i = 0; i < 300000; ++i)
         bytes += kRichtig + "\r\n";
-    const Strukturbericht bericht = pruefeStruktur(bytes, [](const Strukturbericht&) { return false; });
+    const Strukturbericht bericht =
+        pruefeStruktur({Dateistand::Gelesen, bytes}, [](const Strukturbericht&) { return false; });
     EXPECT_FALSE(bericht.vollstaendig);
+    EXPECT_FALSE(bericht.allesRichtig());
     EXPECT_LT(bericht.KorrekteZiehungen, 300000);
     EXPECT_EQ(bericht.letzterSatz, "2024/31");
 }

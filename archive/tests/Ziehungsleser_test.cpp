@@ -180,6 +180,32 @@ TEST(Ziehungsleser, LeerzeileVorEinemWeiterenSatzIstEinBruch)
 {
     erwarteBruch("\r\n\r\n1998,14,02,08,10,12,22,35,46,3");
     EXPECT_EQ(liesAlles("\r\n1998,14,02,08,10,12,22,35,46,3").schluss, Ergebnis::Bruch);
+    erwarteBruch("\r\n\r\n 1998,14,02,08,10,12,22,35,46,3");
+    erwarteBruch("\r\n\n\t1998,14,02,08,10,12,22,35,46,3");
+    EXPECT_EQ(liesAlles("\n 1998,14,02,08,10,12,22,35,46,3").schluss, Ergebnis::Bruch);
+}
+
+TEST(Ziehungsleser, EinCRAlsLetztesByteIstDasEnde)
+{
+    // What lies in memory behind the bytes is not read, even if it would go on as a line end.
+    const std::string mehr = std::string(kBeispielzeile) + "\r\n1998";
+    const Gelesen gelesen = liesAlles(std::string_view(mehr).substr(0, kBeispielzeile.size() + 1));
+    EXPECT_EQ(gelesen.saetze, std::vector{kBeispiel});
+    EXPECT_EQ(gelesen.schluss, Ergebnis::Ende);
+}
+
+TEST(Ziehungsleser, KenntDasEndeDesLetztenSatzes)
+{
+    const std::string zeile(kBeispielzeile);
+    for (const char* rest : {"", "\r\n", "\n", "  \r\n", ",\r\n", "\x1A", "\r\n\r\n"}) {
+        const std::string bytes = zeile + "\r\n" + zeile + rest;
+        Ziehungsleser leser(bytes);
+        Ziehungssatz satz{};
+        leser.lies(satz);
+        EXPECT_EQ(leser.satzende(), zeile.size());
+        leser.lies(satz);
+        EXPECT_EQ(leser.satzende(), 2 * zeile.size() + 2);
+    }
 }
 
 TEST(Ziehungsleser, NachEinemBruchStehenDieGelesenenWerteImSatz)

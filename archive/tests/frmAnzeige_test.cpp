@@ -1,7 +1,9 @@
 #include "archive/tests/Archivbildschirmtest.h"
+#include "shell/logic/Dateisperre.h"
 
 #include <QDir>
 #include <QFile>
+#include <QPushButton>
 #include <QWidget>
 
 namespace {
@@ -10,6 +12,10 @@ class Anzeigebildschirm : public Archivbildschirmtest {
 protected:
     static constexpr auto kFreitag = "2026-11-20T10:00:00";
     static constexpr auto kSamstag = "2026-11-21T19:30:00";
+    static constexpr auto kUnlesbar =
+        "info|Tombrix|Die Ziehungsdatei SALOTTO.DAT kann nicht ganz gelesen werden (lesbare Ziehungen: 1). Es wurde "
+        "nichts gespeichert.\nKorrigieren Sie die Datei mit einem Editor. Die Strukturprüfung nennt die fehlerhaften "
+        "Datensätze.";
     static constexpr auto kMittwoch = "2026-11-18T19:30:00";
 
     void oeffneAm(const char* zeit)
@@ -35,6 +41,21 @@ protected:
         return texte;
     }
     QWidget* feld(const QString& name) { return qobject_cast<QWidget*>(bedienung.finde(name)); }
+    void lege(const char* name, const QByteArray& bytes) const
+    {
+        QFile datei(ordner.filePath(name));
+        ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+        datei.write(bytes);
+    }
+    /// Enters a draw and saves it, with a "Ja" to the question.
+    void speichere()
+    {
+        tippeZahlen({3, 12, 24, 33, 41, 49});
+        setze("cmbSZ", "0");
+        buehne.boxen.antworte("yes");
+        klicke("Befehl8");
+    }
+    void klickeUngeprueft(const char* name) { qobject_cast<QPushButton*>(bedienung.finde(name))->click(); }
     int letzteZeile() { return bedienung.anzahl("Liste1").zeilen.value(0).toInt() - 1; }
 };
 
@@ -402,15 +423,101 @@ TEST_F(Anzeigebildschirm, DatenDateiErzeugenNormtUndBehaeltDieAlte)
     EXPECT_EQ(inhalt("SALOTTO.DAT.alt"), "1955,41, 3,12,13,16,23,41,0,0\r\n");
 }
 
-TEST_F(Anzeigebildschirm, DateiErzeugenNachEinemFehlgeschlagenenLaden)
+TEST_F(Anzeigebildschirm, EineKaputteDateiWirdNichtNeuErzeugt)
 {
     schreibe("SALOTTO.DAT", {"1955,41,03,12,13,16,23,41,00,0", "kaputt"});
     starte();
+    const QByteArray vorher = inhalt("SALOTTO.DAT");
     oeffneAm(kFreitag);
     EXPECT_EQ(letzteZeile(), -1);
     klicke("Befehl12");
-    EXPECT_EQ(inhalt("SALOTTO.DAT"), "");
-    EXPECT_TRUE(inhalt("SALOTTO.DAT.alt").endsWith("kaputt\r\n"));
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), vorher);
+    EXPECT_FALSE(QFile::exists(ordner.filePath("SALOTTO.DAT.alt")));
+    EXPECT_EQ(boxen(), QStringList{kUnlesbar});
+    EXPECT_FALSE(titel().contains("erzeugt"));
+}
+
+TEST_F(Anzeigebildschirm, InEineKaputteDateiWirdNichtGespeichert)
+{
+    starte();
+    oeffneAm(kFreitag);
+    const QByteArray vorher = "1955,41,03,12,13,16,23,41,00,0\r\nkaputt\r\n";
+    lege("SALOTTO.DAT", vorher);
+    speichere();
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), vorher);
+    EXPECT_EQ(boxen().value(1), kUnlesbar);
+    EXPECT_TRUE(bedienbar("Befehl8")) << "what was entered is still there";
+}
+
+TEST_F(Anzeigebildschirm, HinterLeerzeilenUndStrgZWirdDieZiehungGespeichert)
+{
+    for (const char* rest : {"\r\n\r\n", "   ", "\x1A"}) {
+        lege("SALOTTO.DAT", QByteArray("1955,41,03,12,13,16,23,41,00,0\r\n") + rest);
+        starte();
+        oeffneAm(kFreitag);
+        speichere();
+        EXPECT_EQ(inhalt("SALOTTO.DAT"), "1955,41,03,12,13,16,23,41,00,0\r\n1955,42,03,12,24,33,41,49,00,0\r\n");
+        EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 2);
+        EXPECT_TRUE(boxen().value(1).endsWith("gespeichert !"));
+        schliesse();
+    }
+}
+
+TEST_F(Anzeigebildschirm, DateiErzeugenSchreibtDenNamenGross)
+{
+    starte();
+    QFile::rename(ordner.filePath("SALOTTO.DAT"), ordner.filePath("Salotto.dat"));
+    const QByteArray vorher = inhalt("Salotto.dat");
+    oeffneAm(kFreitag);
+    klicke("Befehl12");
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), vorher);
+    EXPECT_FALSE(QDir(ordner.path()).entryList(QDir::Files).contains("Salotto.dat"));
+    EXPECT_EQ(titel(), "Die Datei SALOTTO.DAT wurde erzeugt.");
+}
+
+TEST_F(Anzeigebildschirm, WasEinAnderesProgrammGespeichertHatBleibtUndWirdGezeigt)
+{
+    schreibe("SALOTTO.DAT", {"1955,41,03,12,13,16,23,41,00,0"});
+    starte();
+    oeffneAm(kFreitag);
+    const QByteArray mehr = "1955,41,03,12,13,16,23,41,00,0\r\n1955,42,03,12,18,30,32,49,00,0\r\n";
+    lege("SALOTTO.DAT", mehr);
+    klicke("Befehl12");
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), mehr);
+    EXPECT_EQ(letzteZeile(), 1);
+    EXPECT_EQ(lies("Kombi2"), "43");
+}
+
+TEST_F(Anzeigebildschirm, SpeichertWennDasAndereProgrammFertigIst)
+{
+    starte();
+    oeffneAm(kFreitag);
+    const int anzahl = buehne.archiv.AnzahlZiehungen;
+    auto fremde = Dateisperre::nimm(ordner.filePath("SALOTTO.DAT").toStdString(), std::chrono::milliseconds(0));
+    int zuege = 0;
+    buehne.pumpe.beiZug = [&] {
+        if (++zuege == 5)
+            fremde.reset();
+        klickeUngeprueft("Befehl10"); // switching the game has to wait too
+    };
+    speichere();
+    EXPECT_GE(zuege, 5);
+    EXPECT_EQ(buehne.archiv.Spielart, Samstagslotto);
+    EXPECT_EQ(buehne.archiv.AnzahlZiehungen, anzahl + 1);
+    EXPECT_TRUE(boxen().value(1).endsWith("in Datei SALOTTO.DAT gespeichert !"));
+}
+
+TEST_F(Anzeigebildschirm, SolangeEinAnderesProgrammSchreibtMeldetErDas)
+{
+    starte();
+    const QByteArray vorher = inhalt("SALOTTO.DAT");
+    oeffneAm(kFreitag);
+    const auto fremde = Dateisperre::nimm(ordner.filePath("SALOTTO.DAT").toStdString(), std::chrono::milliseconds(0));
+    buehne.pumpe.beiZug = [this] { bedienung.schliesse(); }; // does not wait to the end
+    speichere();
+    EXPECT_EQ(inhalt("SALOTTO.DAT"), vorher);
+    EXPECT_EQ(boxen().value(1), "info|Tombrix|Die Ziehungsdatei SALOTTO.DAT wird gerade von einem anderen Programm "
+                                "geändert. Es wurde nichts gespeichert.\nBitte versuchen Sie es noch einmal.");
 }
 
 TEST_F(Anzeigebildschirm, EditorGibtNeuLadenFrei)

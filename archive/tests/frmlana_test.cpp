@@ -1,5 +1,7 @@
 #include "archive/tests/Archivbildschirmtest.h"
+#include "testhilfen/Schreibhindernisse.h"
 
+#include <QDir>
 #include <QFile>
 #include <QWidget>
 
@@ -124,6 +126,68 @@ TEST_F(Strukturbildschirm, GeprueftWirdDieDateiDieDerTitelNennt)
     EXPECT_EQ(lies("Bezeichnung5"), "Falsche Ziehungen: 0");
     klicke("Befehl3");
     EXPECT_EQ(buehne.oeffner.entnehme(), QStringList{ordner.filePath("SALOTTO.DAT")});
+}
+
+TEST_F(Strukturbildschirm, WasNichtGelesenWerdenKannGiltNichtAlsRichtig)
+{
+    starte();
+    oeffne("frmlana");
+    klicke("Befehl2");
+    EXPECT_EQ(zeilen("Liste1").size(), 1);
+    QFile::remove(ordner.filePath("SALOTTO.DAT"));
+    QDir(ordner.path()).mkdir("SALOTTO.DAT");
+    klicke("Befehl2");
+    EXPECT_EQ(boxen(), QStringList{"info|Tombrix|Die Ziehungsdatei SALOTTO.DAT kann nicht gelesen werden und wurde "
+                                   "nicht geprüft.\nAn ihrer Stelle liegt ein Ordner."});
+    EXPECT_EQ(zeilen("Liste1"), QStringList());
+    EXPECT_EQ(lies("Bezeichnung4"), "Korrekte Ziehungen:");
+    EXPECT_EQ(lies("Bezeichnung5"), "Falsche Ziehungen:");
+    EXPECT_EQ(lies("Bezeichnung6"), "");
+}
+
+TEST_F(Strukturbildschirm, OhneRechteSagtErDas)
+{
+    starte();
+    oeffne("frmlana");
+    QFile::setPermissions(ordner.filePath("SALOTTO.DAT"), {});
+    QFile::setPermissions(ordner.path(), QFile::Permissions(0x7755));
+    const OhneSonderrechte ohne;
+    if (!ohne.gilt())
+        GTEST_SKIP() << "every right is there, and stays";
+    klicke("Befehl2");
+    EXPECT_EQ(boxen(), QStringList{"info|Tombrix|Die Ziehungsdatei SALOTTO.DAT kann nicht gelesen werden und wurde "
+                                   "nicht geprüft.\nSie besitzen nicht die erforderlichen Rechte um sie zu lesen."});
+}
+
+TEST_F(Strukturbildschirm, VonEinerUeberlangenDateiSagtErWasErNichtGeprueftHat)
+{
+    starte();
+    oeffne("frmlana");
+    QFile datei(ordner.filePath("SALOTTO.DAT"));
+    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+    datei.write(QByteArray("1998,13,02,08,10,12,22,35,46,3\r\n").repeated(600'000));
+    datei.close();
+    klicke("Befehl2");
+    EXPECT_EQ(boxen(), QStringList{"info|Tombrix|Die Ziehungsdatei SALOTTO.DAT ist länger als 16.777.216 Zeichen. Was "
+                                   "dahinter steht, wurde nicht geprüft."});
+    EXPECT_EQ(lies("Bezeichnung4"), "Korrekte Ziehungen: 524288");
+    EXPECT_EQ(zeilen("Liste1"), QStringList());
+}
+
+TEST_F(Strukturbildschirm, LauterLeerzeilenStehenAlleDa)
+{
+    starte();
+    oeffne("frmlana");
+    QFile datei(ordner.filePath("SALOTTO.DAT"));
+    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+    datei.write(QByteArray(16 << 20, '\n'));
+    datei.close();
+    klicke("Befehl2");
+    EXPECT_EQ(bedienung.anzahl("Liste1").zeilen, QStringList{"16777216"});
+    EXPECT_EQ(bedienung.zeilen("Liste1", 16777215, 1).zeilen, QStringList{"Error 01 nach Ziehung: 1955/4X >>  <<"});
+    waehle("Liste1", {16777215});
+    EXPECT_EQ(bedienung.gewaehlte("Liste2").zeilen, QStringList{"1"});
+    EXPECT_EQ(boxen(), QStringList());
 }
 
 TEST_F(Strukturbildschirm, DieEditorenBekommenDieAktiveDatei)

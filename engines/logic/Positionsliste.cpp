@@ -16,11 +16,6 @@ constexpr std::size_t kSchritt = 3;          ///< from one Gewinnzahl to the nex
 constexpr std::size_t kSichereStellen = 18;
 constexpr std::int64_t kZuGross = 1'000'000'000'000'000'000;
 
-bool istZiffer(char zeichen)
-{
-    return zeichen >= '0' && zeichen <= '9';
-}
-
 } // namespace
 
 std::optional<std::int64_t> liesGruppierteZahl(std::string_view text)

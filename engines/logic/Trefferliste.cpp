@@ -81,9 +81,8 @@ std::vector<Gewinnfall> gewinnfaelle(const ZiehungsArchiv& archiv, const Kombina
         const bool mitSuperzahl = superzahl && istSuperzahl(archiv.s[nr], *superzahl);
         if (treffer < kleinsterGewinn(mitSuperzahl))
             continue;
-        const std::string_view datum = nr < archiv.DatumAlle.size() ? archiv.DatumAlle[nr] : std::string_view();
-        faelle.push_back(
-            {archiv.jjjj[nr], archiv.sw[nr], zahlen, archiv.s[nr], ziehungstag(datum), treffer, mitSuperzahl});
+        faelle.push_back({archiv.jjjj[nr], archiv.sw[nr], zahlen, archiv.s[nr], ziehungstag(datumAlleVon(archiv, nr)),
+                          treffer, mitSuperzahl});
     }
     return faelle;
 }

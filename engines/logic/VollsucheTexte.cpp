@@ -15,7 +15,6 @@ namespace {
 constexpr std::string_view kStrich = "--------------------------------";
 constexpr std::array<std::string_view, 4> kSummen{
     "überhaupt mögliche: ", " noch nie gezogene: ", "   einmal gezogene: ", " mehrfach gezogene: "};
-constexpr std::string_view kZeilenende = "\r\n";
 constexpr std::string_view kAnzahlmaske = "##,###,##0";
 
 constexpr std::array<Groessentexte, 5> kGroessen{{

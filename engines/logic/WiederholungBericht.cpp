@@ -2,10 +2,9 @@
 
 #include "listcontrol/logic/concat.h"
 #include "shell/logic/Format.h"
+#include "shell/logic/Texte.h"
 
 namespace {
-
-constexpr std::string_view kZeilenende = "\r\n";
 
 /// `zeile` gives the text of a line by its index.
 template <class Zeile>
@@ -63,5 +62,6 @@ std::string detailBericht(std::string_view art, std::string_view spiel, const De
 std::string nieGezogeneBericht(std::string_view spiel, std::span<const std::string> zeilen)
 {
     return listenBericht("Nie gezogene Dreierkombinationen ", spiel, zeilen,
-                         "Anzahl der nie gezogenen Dreierkombinationen: " + std::to_string(zeilen.size()) + "\r\n\r\n");
+                         "Anzahl der nie gezogenen Dreierkombinationen: " + std::to_string(zeilen.size()) +
+                             std::string(kZeilenende) + std::string(kZeilenende));
 }

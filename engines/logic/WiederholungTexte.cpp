@@ -57,7 +57,7 @@ std::string zusammenfassung(const Angaben& angaben)
 {
     std::string text;
     const auto zeile = [&text](std::string_view links, std::string_view rechts) {
-        text.append(links).append(rechts).append("\r\n");
+        text.append(links).append(rechts).append(kZeilenende);
     };
     zeile("      ", angaben.kombinationen);
     zeile(kStriche, {});

@@ -1,5 +1,7 @@
 #include "reports/frame/HtmlSeite.h"
 
+#include "shell/logic/Texte.h"
+
 namespace {
 
 std::string_view charset(HtmlZeichensatz zeichensatz)
@@ -22,7 +24,7 @@ HtmlSeite::HtmlSeite(const HtmlKopf& kopf) : zeichensatz_(kopf.zeichensatz)
 
 HtmlSeite& HtmlSeite::zeile(std::string_view markup)
 {
-    text_.append(markup).append("\r\n");
+    text_.append(markup).append(kZeilenende);
     return *this;
 }
 

@@ -7,6 +7,7 @@
 #include "filters/screens/Registrierung.h"
 #include "shell/app/frmLSTART.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
+#include "shell/logic/Vorlaeufige.h"
 #include "statistics/screens/Registrierung.h"
 
 void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
@@ -20,6 +21,7 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
 
 void starteProgramm(Umgebung& umgebung)
 {
+    raeumeVorlaeufigeAuf(umgebung.archiv.ProgrammVerzeichnis);
     if (ladeSpielart(umgebung, SpielartStart))
         umgebung.bildschirme->oeffne("frmLSTART");
 }

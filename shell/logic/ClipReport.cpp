@@ -1,5 +1,7 @@
 #include "shell/logic/ClipReport.h"
 
+#include "shell/logic/Texte.h"
+
 ClipReport& ClipReport::reserviere(std::size_t bytes)
 {
     text_.reserve(bytes);
@@ -14,7 +16,7 @@ ClipReport& ClipReport::spiel(std::string_view gross)
 ClipReport& ClipReport::zeile(std::string_view text)
 {
     text_ += text;
-    text_ += "\r\n";
+    text_ += kZeilenende;
     return *this;
 }
 

@@ -1,6 +1,8 @@
 #include "shell/logic/Dateien.h"
 
+#include "shell/logic/Lesedatei.h"
 #include "shell/logic/Texte.h"
+#include "shell/logic/Vorlaeufige.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -14,7 +16,6 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kPuffer = 262'144;
 constexpr int kVersuche = 1000;
-constexpr unsigned kRechteNeu = 0666; ///< less what the user's mask takes away
 constexpr unsigned kAlleRechte = 0777;
 
 DateiErgebnis fehlschlag(int fehler)
@@ -25,54 +26,13 @@ DateiErgebnis fehlschlag(int fehler)
 /// Tells the folder's new entry to the disk. A file system that cannot do that has done its part already.
 void sichereOrdner(const fs::path& ordner)
 {
-    const int offen = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (offen >= 0) {
-        ::fsync(offen);
-        ::close(offen);
-    }
+    if (const OffeneDatei offen(ordner, O_RDONLY | O_DIRECTORY); offen)
+        ::fsync(offen.nummer());
 }
-
-/// Closes a file that is read only.
-class Lesedatei {
-public:
-    explicit Lesedatei(const fs::path& datei) : nummer_(::open(datei.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {}
-    Lesedatei(const Lesedatei&) = delete;
-    Lesedatei& operator=(const Lesedatei&) = delete;
-    ~Lesedatei()
-    {
-        if (nummer_ >= 0)
-            ::close(nummer_);
-    }
-
-    /// The length that the file has now; nothing if it is no regular file.
-    std::optional<std::size_t> laenge() const
-    {
-        struct stat zustand {};
-        if (nummer_ < 0 || ::fstat(nummer_, &zustand) != 0 || !S_ISREG(zustand.st_mode))
-            return std::nullopt;
-        return static_cast<std::size_t>(zustand.st_size);
-    }
-
-    /// Appends at most `anzahl` bytes. The count read, 0 at the end, -1 on an error.
-    ssize_t lies(std::string& ziel, std::size_t anzahl) const
-    {
-        const std::size_t alt = ziel.size();
-        ziel.resize(alt + anzahl);
-        ssize_t gelesen = 0;
-        do {
-            gelesen = ::read(nummer_, ziel.data() + alt, anzahl);
-        } while (gelesen < 0 && errno == EINTR);
-        ziel.resize(alt + static_cast<std::size_t>(gelesen < 0 ? 0 : gelesen));
-        return gelesen;
-    }
-
-private:
-    int nummer_;
-};
 
 } // namespace
 
-AtomareDatei::AtomareDatei(const fs::path& ziel, Schreibschutz schutz) : rechte_(kRechteNeu)
+AtomareDatei::AtomareDatei(const fs::path& ziel, Schreibschutz schutz)
 {
     if (oeffneZiel(ziel, schutz) && oeffneVorlaeufige())
         puffer_.reserve(kPuffer);
@@ -104,12 +64,11 @@ bool AtomareDatei::oeffneZiel(const fs::path& ziel, Schreibschutz schutz)
 bool AtomareDatei::oeffneVorlaeufige()
 {
     for (int versuch = 0; versuch < kVersuche; ++versuch) {
-        const std::string name = ".neu-" + std::to_string(::getpid()) + "-" + std::to_string(versuch) + ".tmp";
-        const fs::path pfad = ziel_.parent_path() / name;
-        datei_ = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kRechteNeu);
-        if (datei_ >= 0) {
+        const fs::path pfad = ziel_.parent_path() / (vorlaeufigerName(versuch) + ".tmp");
+        datei_ = OffeneDatei(pfad, O_WRONLY | O_CREAT | O_EXCL);
+        if (datei_) {
             vorlaeufige_ = pfad;
-            return !ersetzt_ || ::fchmod(datei_, rechte_) == 0 || scheitere(errno);
+            return !ersetzt_ || ::fchmod(datei_.nummer(), rechte_) == 0 || scheitere(errno);
         }
         if (errno != EEXIST)
             break;
@@ -119,7 +78,7 @@ bool AtomareDatei::oeffneVorlaeufige()
 
 bool AtomareDatei::schreibe(std::string_view bytes)
 {
-    if (datei_ < 0)
+    if (!datei_)
         return false;
     puffer_.append(bytes);
     return puffer_.size() < kPuffer || leere();
@@ -129,7 +88,7 @@ bool AtomareDatei::leere()
 {
     std::string_view rest = puffer_;
     while (!rest.empty()) {
-        const ssize_t geschrieben = ::write(datei_, rest.data(), rest.size());
+        const ssize_t geschrieben = ::write(datei_.nummer(), rest.data(), rest.size());
         if (geschrieben >= 0)
             rest.remove_prefix(static_cast<std::size_t>(geschrieben));
         else if (errno != EINTR)
@@ -141,14 +100,13 @@ bool AtomareDatei::leere()
 
 DateiErgebnis AtomareDatei::uebernimm()
 {
-    if (datei_ < 0)
+    if (!datei_)
         return ergebnis_.gut() ? fehlschlag(EBADF) : ergebnis_;
     if (!leere())
         return ergebnis_;
-    const bool gesichert = ::fsync(datei_) == 0;
+    const bool gesichert = ::fsync(datei_.nummer()) == 0;
     const int sicherungsfehler = errno;
-    const bool geschlossen = ::close(datei_) == 0;
-    datei_ = -1;
+    const bool geschlossen = datei_.schliesse();
     if (!gesichert || !geschlossen) {
         scheitere(gesichert ? errno : sicherungsfehler);
     } else if (::rename(vorlaeufige_.c_str(), ziel_.c_str()) != 0) {
@@ -169,10 +127,7 @@ bool AtomareDatei::scheitere(int fehler)
 
 void AtomareDatei::raeumeAuf()
 {
-    if (datei_ >= 0) {
-        ::close(datei_);
-        datei_ = -1;
-    }
+    datei_ = OffeneDatei();
     if (!vorlaeufige_.empty()) {
         ::unlink(vorlaeufige_.c_str());
         vorlaeufige_.clear();
@@ -187,23 +142,34 @@ DateiErgebnis schreibeDatei(const fs::path& ziel, std::string_view bytes, Schrei
     return datei.uebernimm();
 }
 
-std::optional<std::string> leseDatei(const fs::path& datei, std::size_t hoechstens)
+DateiErgebnis kopiereDatei(const fs::path& von, const fs::path& nach)
 {
-    const Lesedatei offen(datei);
-    const std::optional<std::size_t> laenge = offen.laenge();
-    if (!laenge || *laenge > hoechstens)
-        return std::nullopt;
-    std::string bytes;
-    bytes.reserve(*laenge + 1);
-    ssize_t gelesen = 0;
+    Lesedatei quelle(von);
+    if (quelle.fehler() != 0)
+        return fehlschlag(quelle.fehler());
+    AtomareDatei ziel(nach);
+    std::string block;
+    while (quelle.lies(block, kPuffer) > 0) {
+        if (!ziel.schreibe(block))
+            return ziel.ergebnis();
+        block.clear();
+    }
+    return quelle.fehler() != 0 ? fehlschlag(quelle.fehler()) : ziel.uebernimm();
+}
+
+bool gleicherInhalt(const fs::path& a, const fs::path& b)
+{
+    Lesedatei eine(a);
+    Lesedatei andere(b);
+    std::string links;
+    std::string rechts;
     do {
-        // The file may grow or shrink meanwhile, so its end is where a read gives nothing.
-        const std::size_t block = bytes.size() < *laenge ? *laenge - bytes.size() : 1;
-        gelesen = offen.lies(bytes, block);
-    } while (gelesen > 0 && bytes.size() <= hoechstens);
-    if (gelesen < 0 || bytes.size() > hoechstens)
-        return std::nullopt;
-    return bytes;
+        links.clear();
+        rechts.clear();
+        eine.lies(links, kPuffer);
+        andere.lies(rechts, kPuffer);
+    } while (links == rechts && !links.empty());
+    return links == rechts && eine.fehler() == 0 && andere.fehler() == 0;
 }
 
 fs::path findeDatei(const fs::path& ordner, std::string_view name)
@@ -222,6 +188,15 @@ fs::path findeDatei(const fs::path& ordner, std::string_view name)
         eintrag.increment(fehler);
     }
     return gefunden.empty() ? genau : gefunden;
+}
+
+fs::path inRichtigerSchreibung(const fs::path& datei, std::string_view name)
+{
+    fs::path richtig = datei.parent_path() / fs::path(name);
+    std::error_code fehler;
+    if (datei != richtig && fs::exists(datei, fehler))
+        fs::rename(datei, richtig, fehler);
+    return fehler ? datei : richtig;
 }
 
 std::string mitTrenner(std::string pfad)

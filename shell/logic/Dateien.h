@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstddef>
+#include "shell/logic/OffeneDatei.h"
+
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -49,9 +49,9 @@ private:
 
     std::filesystem::path ziel_;
     std::filesystem::path vorlaeufige_;
-    unsigned rechte_;
+    unsigned rechte_{0};  ///< of the old file
     bool ersetzt_{false}; ///< there is an old file, whose rights the new one keeps
-    int datei_{-1};
+    OffeneDatei datei_;
     std::string puffer_;
     DateiErgebnis ergebnis_;
 };
@@ -60,12 +60,18 @@ private:
 DateiErgebnis schreibeDatei(const std::filesystem::path& ziel, std::string_view bytes,
                             Schreibschutz schutz = Schreibschutz::Aufheben);
 
-/// The bytes of a regular file. Nothing if there is none, if it cannot be read, or if it is longer than `hoechstens`.
-std::optional<std::string> leseDatei(const std::filesystem::path& datei, std::size_t hoechstens);
+/// Copies a file over another one in one step; the target is as before if that fails.
+DateiErgebnis kopiereDatei(const std::filesystem::path& von, const std::filesystem::path& nach);
+
+/// True if both files can be read and hold the same bytes.
+bool gleicherInhalt(const std::filesystem::path& a, const std::filesystem::path& b);
 
 /// The file `name` in `ordner`: the exact name if it exists, else one that differs in case only (of several the first
 /// in byte order), else the path under which it would be created.
 std::filesystem::path findeDatei(const std::filesystem::path& ordner, std::string_view name);
+
+/// The file, which from here on has that name in its folder if it exists and can be renamed.
+std::filesystem::path inRichtigerSchreibung(const std::filesystem::path& datei, std::string_view name);
 
 /// The path with the platform's separator at its end. The empty path stays empty.
 std::string mitTrenner(std::string pfad);

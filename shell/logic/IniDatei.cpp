@@ -1,20 +1,20 @@
 #include "shell/logic/IniDatei.h"
 
 #include "shell/logic/Dateien.h"
+#include "shell/logic/Lesedatei.h"
 #include "shell/logic/Texte.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
-#include <system_error>
+#include <utility>
 
 namespace {
 
 constexpr std::size_t kGroessteDatei = 1'048'576;
 constexpr std::size_t kLaengsterWert = 254;
 constexpr std::string_view kLeer = " \t";
-constexpr std::string_view kZeilenende = "\r\n";
 
 /// One line of the file in Windows-1252: its text and where it lies, its end included.
 struct Zeile {
@@ -120,10 +120,10 @@ std::string alsWert(std::string_view wert)
 /// The file's bytes, none if there is no file yet; nothing if there is one that cannot be read.
 std::optional<std::string> liesInhalt(const std::filesystem::path& datei)
 {
-    std::error_code fehler;
-    if (std::filesystem::status(datei, fehler).type() == std::filesystem::file_type::not_found)
-        return std::string();
-    return leseDatei(datei, kGroessteDatei);
+    Dateiinhalt inhalt = leseDatei(datei, kGroessteDatei);
+    if (!inhalt.ganz() && inhalt.stand != Dateistand::Fehlt)
+        return std::nullopt;
+    return std::move(inhalt.bytes);
 }
 
 std::string mitZeilenende(std::string inhalt)
@@ -160,7 +160,7 @@ bool IniSchreiben(const std::filesystem::path& datei, std::string_view abschnitt
         inhalt->insert(fund.einfuegen, neu);
     } else {
         *inhalt = mitZeilenende(std::move(*inhalt));
-        *inhalt += fund.abschnitt ? neu : "[" + nachWindows1252(abschnitt) + "]\r\n" + neu;
+        *inhalt += fund.abschnitt ? neu : "[" + nachWindows1252(abschnitt) + "]" + std::string(kZeilenende) + neu;
     }
     return inhalt->size() <= kGroessteDatei && schreibeDatei(datei, *inhalt, Schreibschutz::Achten).gut();
 }

@@ -8,6 +8,14 @@
 #include <string_view>
 #include <vector>
 
+/// What ends a line of the text files that the program writes.
+inline constexpr std::string_view kZeilenende = "\r\n";
+
+constexpr bool istZiffer(char zeichen)
+{
+    return zeichen >= '0' && zeichen <= '9';
+}
+
 enum class Vergleich {
     Binaer, ///< byte by byte
     Text    ///< without regard to case, German letters included

@@ -16,8 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kGenug = 1'048'576;
-
 fs::perms rechte(const fs::path& datei)
 {
     return fs::status(datei).permissions();
@@ -253,30 +251,38 @@ TEST(AtomareDatei, ZweiZugleichImSelbenOrdner)
     EXPECT_EQ(inhaltVon(ordner / "zwei.txt"), "2");
 }
 
-TEST(LeseDatei, GanzerInhalt)
+TEST(KopiereDatei, ErsetztDasZielGanz)
 {
     const Pruefordner ordner;
-    const std::string inhalt("a\0b\r\n", 5);
-    EXPECT_EQ(leseDatei(ordner.lege("da.txt", inhalt), kGenug), inhalt);
-    EXPECT_EQ(leseDatei(ordner.lege("leer.txt", ""), kGenug), "");
+    const std::string viel(300'000, 'v');
+    const fs::path ziel = ordner.lege("ziel", std::string(400'000, 'a'));
+    fs::permissions(ziel, fs::perms(0400));
+    EXPECT_TRUE(kopiereDatei(ordner.lege("quelle", viel), ziel));
+    EXPECT_EQ(inhaltVon(ziel), viel);
+    EXPECT_EQ(ordner.eintraege(), 2U);
 }
 
-TEST(LeseDatei, ZuLangeWirdNichtGelesen)
+TEST(KopiereDatei, OhneQuelleBleibtDasZiel)
 {
     const Pruefordner ordner;
-    const fs::path datei = ordner.lege("da.txt", "12345");
-    EXPECT_EQ(leseDatei(datei, 5), "12345");
-    EXPECT_EQ(leseDatei(datei, 4), std::nullopt);
+    const fs::path ziel = ordner.lege("ziel", "alt");
+    EXPECT_FALSE(kopiereDatei(ordner / "fehlt", ziel));
+    EXPECT_FALSE(kopiereDatei(ordner.pfad(), ziel));
+    EXPECT_EQ(inhaltVon(ziel), "alt");
+    EXPECT_EQ(ordner.eintraege(), 1U);
 }
 
-TEST(LeseDatei, WasKeineDateiIst)
+TEST(GleicherInhalt, VergleichtJedesByte)
 {
     const Pruefordner ordner;
-    EXPECT_EQ(leseDatei(ordner / "fehlt", kGenug), std::nullopt);
-    EXPECT_EQ(leseDatei(ordner.pfad(), kGenug), std::nullopt);
-    EXPECT_EQ(leseDatei("/dev/zero", kGenug), std::nullopt);
-    ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
-    EXPECT_EQ(leseDatei(ordner / "rohr", kGenug), std::nullopt);
+    const std::string viel(200'000, 'v');
+    const fs::path a = ordner.lege("a", viel);
+    EXPECT_TRUE(gleicherInhalt(a, ordner.lege("b", viel)));
+    EXPECT_FALSE(gleicherInhalt(a, ordner.lege("c", viel + "x")));
+    EXPECT_FALSE(gleicherInhalt(a, ordner.lege("d", viel.substr(1) + "x")));
+    EXPECT_TRUE(gleicherInhalt(ordner.lege("e", ""), ordner.lege("f", "")));
+    EXPECT_FALSE(gleicherInhalt(a, ordner / "fehlt"));
+    EXPECT_FALSE(gleicherInhalt(ordner / "fehlt", ordner / "fehlt"));
 }
 
 TEST(FindeDatei, GenauerNameGehtVor)

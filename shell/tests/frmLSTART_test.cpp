@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
@@ -71,6 +72,15 @@ protected:
     void starte() override { starteProgramm(buehne.umgebung); }
     QString status() { return lies("Bezeichnung2"); }
 };
+
+TEST_F(Auswahlmenue, RaeumtBeimStartAufWasGetoeteteProgrammeLiessen)
+{
+    schreibe(".neu-99999999-0.tmp", {"1955,41,03,12,13,16,23,41,00,0"}); // no process can have this number
+    schreibe(QString(".neu-%1-0.tmp").arg(QCoreApplication::applicationPid()), {"lebt"});
+    starte();
+    EXPECT_FALSE(QFile::exists(ordner.filePath(".neu-99999999-0.tmp")));
+    EXPECT_TRUE(QFile::exists(ordner.filePath(QString(".neu-%1-0.tmp").arg(QCoreApplication::applicationPid()))));
+}
 
 TEST_F(Auswahlmenue, BeginntAufSamstagslotto)
 {

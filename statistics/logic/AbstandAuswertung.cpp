@@ -2,15 +2,6 @@
 
 #include "statistics/logic/Zahltreffer.h"
 
-namespace {
-
-std::string datumVon(const ZiehungsArchiv& archiv, std::size_t nr)
-{
-    return nr < archiv.Datum.size() ? archiv.Datum[nr] : "";
-}
-
-} // namespace
-
 AbstandAuswertung werteAbstandAus(const ZiehungsArchiv& archiv, int zahl, ZZModus modus)
 {
     AbstandAuswertung auswertung;

@@ -11,7 +11,7 @@ constexpr std::int32_t kLetztesJahr = 9999;
 
 std::int32_t jahrDesDatums(const ZiehungsArchiv& archiv, std::size_t nr)
 {
-    const std::string_view datum = nr < archiv.Datum.size() ? std::string_view(archiv.Datum[nr]) : std::string_view();
+    const std::string_view datum = datumVon(archiv, nr);
     const std::string_view jahr = datum.substr(datum.size() - std::min(datum.size(), kJahresstellen));
     return ganzzahl(jahr).value_or(archiv.jjjj[nr]);
 }

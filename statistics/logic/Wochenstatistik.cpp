@@ -31,7 +31,7 @@ Wochenstatistik weekStatistics(const ZiehungsArchiv& archiv, std::int32_t sw, bo
         if (archiv.sw[nr] != sw)
             continue;
         statistik.ziehungen.push_back({static_cast<std::int32_t>(nr), archiv.jjjj[nr], archiv.gewinnzahlen(nr),
-                                       archiv.zz[nr], nr < archiv.Datum.size() ? archiv.Datum[nr] : ""});
+                                       archiv.zz[nr], datumVon(archiv, nr)});
     }
     for (const Wochenziehung& ziehung : statistik.ziehungen) {
         for (const std::int32_t zahl : ziehung.gewinnzahlen)

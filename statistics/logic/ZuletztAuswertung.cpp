@@ -11,7 +11,7 @@ namespace {
 LetztesAuftreten auftretenIn(const ZiehungsArchiv& archiv, std::int32_t nr)
 {
     const auto i = static_cast<std::size_t>(nr);
-    return {nr, archiv.Spielart, jahrUndWoche(archiv, i), i < archiv.Datum.size() ? archiv.Datum[i] : ""};
+    return {nr, archiv.Spielart, jahrUndWoche(archiv, i), datumVon(archiv, i)};
 }
 
 bool istGanzzahl(std::string_view text)

@@ -1,4 +1,4 @@
-#include "archive/logic/Vorlaeufige.h"
+#include "shell/logic/Vorlaeufige.h"
 #include "testhilfen/Pruefordner.h"
 
 #include <gtest/gtest.h>
@@ -59,40 +59,6 @@ TEST(RaeumeVorlaeufigeAuf, OhneOrdnerTutNichts)
 {
     raeumeVorlaeufigeAuf("/gibt/es/nicht");
     SUCCEED();
-}
-
-TEST(KopiereDatei, ErsetztDasZielGanz)
-{
-    const Pruefordner ordner;
-    const std::string viel(300'000, 'v');
-    const fs::path ziel = ordner.lege("ziel", std::string(400'000, 'a'));
-    fs::permissions(ziel, fs::perms(0400));
-    EXPECT_TRUE(kopiereDatei(ordner.lege("quelle", viel), ziel));
-    EXPECT_EQ(inhaltVon(ziel), viel);
-    EXPECT_EQ(ordner.eintraege(), 2U);
-}
-
-TEST(KopiereDatei, OhneQuelleBleibtDasZiel)
-{
-    const Pruefordner ordner;
-    const fs::path ziel = ordner.lege("ziel", "alt");
-    EXPECT_FALSE(kopiereDatei(ordner / "fehlt", ziel));
-    EXPECT_FALSE(kopiereDatei(ordner.pfad(), ziel));
-    EXPECT_EQ(inhaltVon(ziel), "alt");
-    EXPECT_EQ(ordner.eintraege(), 1U);
-}
-
-TEST(GleicherInhalt, VergleichtJedesByte)
-{
-    const Pruefordner ordner;
-    const std::string viel(200'000, 'v');
-    const fs::path a = ordner.lege("a", viel);
-    EXPECT_TRUE(gleicherInhalt(a, ordner.lege("b", viel)));
-    EXPECT_FALSE(gleicherInhalt(a, ordner.lege("c", viel + "x")));
-    EXPECT_FALSE(gleicherInhalt(a, ordner.lege("d", viel.substr(1) + "x")));
-    EXPECT_TRUE(gleicherInhalt(ordner.lege("e", ""), ordner.lege("f", "")));
-    EXPECT_FALSE(gleicherInhalt(a, ordner / "fehlt"));
-    EXPECT_FALSE(gleicherInhalt(ordner / "fehlt", ordner / "fehlt"));
 }
 
 } // namespace
