@@ -51,6 +51,14 @@ QString Buehnentest::zustand(const QString& name)
 {
     return gelungen(bedienung.zustand(name));
 }
+QList<int> Buehnentest::markierte(const QString& feld)
+{
+    QList<int> zahlen;
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        if (zustand(QString("%1(%2)").arg(feld).arg(zahl)).endsWith("bold=true back=#00ffff fore=#ff0000"))
+            zahlen << zahl;
+    return zahlen;
+}
 QString Buehnentest::titel()
 {
     return gelungen(bedienung.titel());

@@ -25,6 +25,8 @@ protected:
     QString zustand(const QString& name);
     bool sichtbar(const QString& name) { return zustand(name).contains("visible=true"); }
     bool bedienbar(const QString& name) { return zustand(name).contains("enabled=true"); }
+    /// The numbers 1..49 whose cells `feld(n)` look marked in every respect.
+    QList<int> markierte(const QString& feld);
     QString titel();
     /// The boxes since the last call, each as "kind|title|text".
     QStringList boxen();

@@ -15,20 +15,12 @@ protected:
         ASSERT_TRUE(bedienung.benutze("frmpos_calc").gelungen());
     }
 
-    QList<int> markierte()
-    {
-        QList<int> zahlen;
-        for (int zahl = 1; zahl <= 49; ++zahl)
-            if (zustand(QString("Bezeichnung6(%1)").arg(zahl)).contains("back=#00ffff"))
-                zahlen << zahl;
-        return zahlen;
-    }
     void klickeZahl(int zahl) { klicke(QString("Bezeichnung6(%1)").arg(zahl)); }
     /// Takes the marks of the first calculation away and marks these.
     void waehleZahlen(const QList<int>& zahlen)
     {
         klicke("Option1(1)");
-        for (const int zahl : markierte())
+        for (const int zahl : markierte("Bezeichnung6"))
             klickeZahl(zahl);
         for (const int zahl : zahlen)
             klickeZahl(zahl);
@@ -40,7 +32,7 @@ TEST_F(Positionsrechner, OeffnetMitDerErstenKombination)
     EXPECT_EQ(titel(), "Positionszahl->Kombination;   Kombination -> Positionszahl");
     EXPECT_EQ(lies("Text1"), "1");
     EXPECT_EQ(lies("Text2"), "Die Kombination:   1  2  3  4  5  6 -> steht an Position: 1");
-    EXPECT_EQ(markierte(), (QList<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{1, 2, 3, 4, 5, 6}));
     EXPECT_TRUE(zustand("Option1(0)").contains("checked=true"));
     EXPECT_FALSE(bedienbar("Rahmen6"));
     EXPECT_FALSE(sichtbar("Label3"));
@@ -52,7 +44,7 @@ TEST_F(Positionsrechner, RechnetVonDerPositionszahl)
 {
     setze("Text1", "6324251");
     EXPECT_EQ(lies("Text2"), "Die Kombination:   5 10 20 30 40 49 -> steht an Position: 6.324.251");
-    EXPECT_EQ(markierte(), (QList<int>{5, 10, 20, 30, 40, 49}));
+    EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{5, 10, 20, 30, 40, 49}));
     setze("Text1", "13.983.815");
     EXPECT_EQ(lies("Text2"), "Die Kombination:  43 45 46 47 48 49 -> steht an Position: 13.983.815");
     EXPECT_EQ(lies("Label4"), "");
@@ -66,7 +58,7 @@ TEST_F(Positionsrechner, EineFalscheEingabeLaesstDasLetzteErgebnis)
         setze("Text1", text);
         EXPECT_EQ(lies("Label4"), kFehler) << text;
         EXPECT_EQ(lies("Text2"), vorher) << text;
-        EXPECT_EQ(markierte(), (QList<int>{1, 2, 3, 4, 5, 7})) << text;
+        EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{1, 2, 3, 4, 5, 7})) << text;
     }
     setze("Text1", "3");
     EXPECT_EQ(lies("Label4"), "");
@@ -111,7 +103,7 @@ TEST_F(Positionsrechner, RechnetVonDerKombination)
     klickeZahl(20);
     EXPECT_EQ(lies("Text1"), "6324251");
     EXPECT_EQ(lies("Text2"), "Die Kombination:   5 10 20 30 40 49 -> steht an Position: 6.324.251");
-    EXPECT_EQ(markierte(), (QList<int>{5, 10, 20, 30, 40, 49}));
+    EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{5, 10, 20, 30, 40, 49}));
 }
 
 TEST_F(Positionsrechner, EinSiebenterKlickAendertNichts)
@@ -119,11 +111,11 @@ TEST_F(Positionsrechner, EinSiebenterKlickAendertNichts)
     waehleZahlen({11, 12, 23, 34, 35, 48});
     klickeZahl(1);
     EXPECT_EQ(lies("Text1"), "10771741");
-    EXPECT_EQ(markierte(), (QList<int>{11, 12, 23, 34, 35, 48}));
+    EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{11, 12, 23, 34, 35, 48}));
     EXPECT_TRUE(boxen().isEmpty());
     // With one taken away the last result stays, until there are six again.
     klickeZahl(48);
-    EXPECT_EQ(markierte().size(), 5);
+    EXPECT_EQ(markierte("Bezeichnung6").size(), 5);
     EXPECT_EQ(lies("Text2"), "Die Kombination:  11 12 23 34 35 48 -> steht an Position: 10.771.741");
     klickeZahl(49);
     EXPECT_EQ(lies("Text1"), "10771742");
@@ -138,7 +130,7 @@ TEST_F(Positionsrechner, DerWechselDerRichtungRechnetNeu)
     klickeZahl(49);
     EXPECT_EQ(lies("Text1"), "12588103");
     klicke("Option1(0)");
-    EXPECT_EQ(markierte(), (QList<int>{15, 25, 27, 30, 42, 49}));
+    EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{15, 25, 27, 30, 42, 49}));
     EXPECT_FALSE(bedienbar("Rahmen6"));
 }
 
@@ -148,13 +140,13 @@ TEST_F(Positionsrechner, DieGewaehlteKombinationSchreibtIhrePositionszahlZurueck
     setze("Text1", "77");
     EXPECT_EQ(lies("Text1"), "1");
     EXPECT_TRUE(lies("Text2").endsWith(" -> steht an Position: 1"));
-    EXPECT_EQ(markierte(), (QList<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{1, 2, 3, 4, 5, 6}));
 }
 
 TEST_F(Positionsrechner, ImAusgeschaltetenFeldWirdNichtsMarkiert)
 {
     EXPECT_FALSE(bedienung.klicke("Bezeichnung6(20)").grund.isEmpty());
-    EXPECT_EQ(markierte(), (QList<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(markierte("Bezeichnung6"), (QList<int>{1, 2, 3, 4, 5, 6}));
 }
 
 TEST_F(Positionsrechner, DasErgebnisfeldIstNurZumLesen)

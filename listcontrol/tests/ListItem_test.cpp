@@ -64,6 +64,44 @@ TEST(ListItem, NimmtEinenTextAusSichSelbst)
     EXPECT_EQ(posten.Text(2), "ein Text, der nicht klein ist");
 }
 
+// A short one fits into the room that is there, so that the texts move within the block while one of them is read.
+TEST(ListItem, NimmtEinenTextAusSichSelbstOhneUmzuziehen)
+{
+    ListItem posten(4, 200);
+    posten.setTag("T");
+    posten.setText(0, "0123456789");
+    posten.setText(3, "abcdefghij");
+    const void* vorher = posten.Kennung();
+    posten.setText(0, posten.Text(3));
+    EXPECT_EQ(posten.Text(0), "abcdefghij");
+    posten.setText(1, posten.Text(0).substr(5));
+    EXPECT_EQ(posten.Text(1), "fghij");
+    posten.setText(0, posten.Text(3).substr(9));
+    EXPECT_EQ(posten.Text(0), "j");
+    posten.setTag(posten.Text(3));
+    EXPECT_EQ(posten.Tag(), "abcdefghij");
+    posten.setText(2, posten.Tag());
+    EXPECT_EQ(posten.Text(0), "j");
+    EXPECT_EQ(posten.Text(1), "fghij");
+    EXPECT_EQ(posten.Text(2), "abcdefghij");
+    EXPECT_EQ(posten.Text(3), "abcdefghij");
+    EXPECT_EQ(posten.Kennung(), vorher);
+}
+
+// The first byte of the block and the last one that it has room for.
+TEST(ListItem, NimmtAuchDenErstenUndDenLetztenTextAusSichSelbst)
+{
+    ListItem posten(2);
+    posten.setTag("erster");
+    while (posten.Textlaenge() < 300)
+        posten.setText(1, std::string(posten.Text(1)) + "x");
+    posten.setText(0, posten.Tag());
+    EXPECT_EQ(posten.Text(0), "erster");
+    posten.setText(1, posten.Text(1).substr(posten.Text(1).size() - 1));
+    EXPECT_EQ(posten.Text(1), "x");
+    EXPECT_EQ(posten.Tag(), "erster");
+}
+
 TEST(ListItem, EinFalscherIndexIstEinFehlerUndAendertNichts)
 {
     ListItem posten(2);

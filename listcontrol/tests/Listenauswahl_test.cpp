@@ -167,6 +167,33 @@ TEST_F(Auswahl, FolgtEntferntenZeilen)
     EXPECT_EQ(auswahl.fokus(), 2);
 }
 
+TEST_F(Auswahl, MitDerZeileGehenFokusUndAnkerAufDieNaechste)
+{
+    klicke(1);
+    auswahl.vorEntfernen(1);
+    posten.RemoveItem(1);
+    EXPECT_EQ(auswahl.fokus(), 1);
+    EXPECT_EQ(auswahl.SelectedItem(), -1);
+    klickeUmschalt(3);
+    EXPECT_THAT(gewaehlte(), ElementsAre(1, 2, 3));
+}
+
+TEST_F(Auswahl, VonDerLetztenZeileGehtDerFokusAufDieDavor)
+{
+    klicke(4);
+    auswahl.vorEntfernen(4);
+    posten.RemoveItem(4);
+    EXPECT_EQ(auswahl.fokus(), 3);
+}
+
+TEST_F(Auswahl, EineZeileDahinterLaesstDenFokusStehen)
+{
+    klicke(2);
+    auswahl.vorEntfernen(3);
+    posten.RemoveItem(3);
+    EXPECT_EQ(auswahl.fokus(), 2);
+}
+
 TEST_F(Auswahl, DieLetzteZeileNimmtDenFokusMit)
 {
     klicke(0);
@@ -191,6 +218,30 @@ TEST_F(Auswahl, FolgtVerschobenenZeilen)
     auswahl.nachVerschieben(4, 0);
     EXPECT_EQ(auswahl.fokus(), 3);
     EXPECT_THAT(gewaehlte(), ElementsAre(3));
+}
+
+TEST_F(Auswahl, AmZielEinerVerschiebungMachtDerFokusPlatz)
+{
+    klicke(3);
+    posten.MoveItem(1, 3);
+    auswahl.nachVerschieben(1, 3);
+    EXPECT_EQ(auswahl.fokus(), 2);
+    EXPECT_THAT(gewaehlte(), ElementsAre(2));
+    posten.MoveItem(4, 2);
+    auswahl.nachVerschieben(4, 2);
+    EXPECT_EQ(auswahl.fokus(), 3);
+    EXPECT_THAT(gewaehlte(), ElementsAre(3));
+}
+
+TEST_F(Auswahl, AusserhalbEinerVerschiebungBleibtDerFokus)
+{
+    klicke(1);
+    posten.MoveItem(2, 4);
+    auswahl.nachVerschieben(2, 4);
+    EXPECT_EQ(auswahl.fokus(), 1);
+    posten.MoveItem(4, 2);
+    auswahl.nachVerschieben(4, 2);
+    EXPECT_EQ(auswahl.fokus(), 1);
 }
 
 TEST_F(Auswahl, GehtBeimSortierenMitIhrenZeilen)
