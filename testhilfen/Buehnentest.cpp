@@ -1,6 +1,7 @@
 #include "testhilfen/Buehnentest.h"
 
 #include "shell/elements/Programm.h"
+#include "shell/logic/Lottozahl.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,7 +55,7 @@ QString Buehnentest::zustand(const QString& name)
 QList<int> Buehnentest::markierte(const QString& feld)
 {
     QList<int> zahlen;
-    for (int zahl = 1; zahl <= 49; ++zahl)
+    for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl)
         if (zustand(QString("%1(%2)").arg(feld).arg(zahl)).endsWith("bold=true back=#00ffff fore=#ff0000"))
             zahlen << zahl;
     return zahlen;

@@ -45,7 +45,6 @@ QComboBox* auswahl(QWidget* eltern, const char* name, QLineEdit* feld)
 {
     auto* kombi = benannt(new QComboBox(eltern), name);
     kombi->setFont(Stil::festeSchrift());
-    kombi->setMaxVisibleItems(20);
     QObject::connect(kombi, &QComboBox::activated, kombi,
                      [kombi, feld] { feld->setText(kombi->currentText().trimmed()); });
     return kombi;

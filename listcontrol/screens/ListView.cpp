@@ -45,7 +45,7 @@ void ListView::verbindeKopf()
 void ListView::setItemText(int row, int column, std::string_view text)
 {
     posten_.Item(row).setText(column, text);
-    erneuere();
+    erneuereZeilen();
 }
 
 int ListView::AddPicture(const QPixmap& picture)
@@ -59,7 +59,7 @@ int ListView::AddItem(std::string_view text, std::string_view tag, int index)
     const int zeile = posten_.AddItem(text, tag, index);
     auswahl_.nachHinzufuegen(zeile);
     vergissSortierung();
-    erneuere();
+    erneuereZeilen();
     return zeile;
 }
 
@@ -67,7 +67,7 @@ void ListView::RemoveItem(int row)
 {
     auswahl_.vorEntfernen(row);
     posten_.RemoveItem(row);
-    erneuere();
+    erneuereZeilen();
 }
 
 void ListView::MoveItem(int from, int to)
@@ -75,7 +75,7 @@ void ListView::MoveItem(int from, int to)
     posten_.MoveItem(from, to);
     auswahl_.nachVerschieben(from, to);
     vergissSortierung();
-    erneuere();
+    erneuereZeilen();
 }
 
 void ListView::Clear()
@@ -84,7 +84,7 @@ void ListView::Clear()
     auswahl_.nachLeeren();
     vergissSortierung();
     rolleZu(0);
-    erneuere();
+    erneuereZeilen();
 }
 
 // --- Columns
@@ -266,7 +266,7 @@ void ListView::Sort(int column, Sortierrichtung order)
     auswahl_.sortiere(column, order);
     spalten_.Item(column).LastSortOrder = order;
     kopf_->setzeSortierspalte(column);
-    erneuere();
+    erneuereZeilen();
 }
 
 void ListView::vergissSortierung()

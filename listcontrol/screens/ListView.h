@@ -255,6 +255,10 @@ public:
     bool istGewaehlt(int zeile) const override { return posten_.Item(zeile).Selected(); }
     /// One entry a column, in the order of their indices.
     std::vector<Zellfarben> zellfarben(int zeile) const override;
+    /// What the user sees of a row: the visible columns in their places, without the separators.
+    QString kopierzeile(int zeile) const override;
+    int fokuszeile() const override { return auswahl_.fokus(); }
+    bool waehleAlle() override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -262,7 +266,6 @@ protected:
     void maleZeile(QPainter& maler, int zeile, const QRect& rechteck) override;
     int zeilenhoehe() const override;
     int zeilenbreite() const override { return lage_.gesamtbreite(); }
-    int fokuszeile() const override { return auswahl_.fokus(); }
     void waehle(int zeile, Qt::KeyboardModifiers tasten) override;
     void schalte(int zeile) override;
     bool ruht() const override { return !zeichnet_; }
@@ -305,7 +308,7 @@ private:
     Zellfarben farben(int zeile, int spalte) const;
     void maleInhalt(QPainter& maler, const QRect& zelle, int zeile, int spalte) const;
     void maleKaestchen(QPainter& maler, const QRect& kasten, int zeile) const;
-    void maleFokus(QPainter& maler, const QRect& zeile) const;
+    void maleZeilenfokus(QPainter& maler, const QRect& zeile) const;
 
     ColumnCollection spalten_;
     Spaltenlage lage_{spalten_};

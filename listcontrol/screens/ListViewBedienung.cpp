@@ -59,13 +59,17 @@ void ListView::keyPressEvent(QKeyEvent* ereignis)
 {
     if (beiTaste)
         beiTaste(ereignis->key());
-    if (!ereignis->matches(QKeySequence::SelectAll)) {
-        Zeilenansicht::keyPressEvent(ereignis);
-    } else if (MultiSelect()) {
-        SelectAll();
-        if (beiAuswahl)
-            beiAuswahl();
-    }
+    Zeilenansicht::keyPressEvent(ereignis);
+}
+
+bool ListView::waehleAlle()
+{
+    if (!MultiSelect())
+        return false;
+    SelectAll();
+    if (beiAuswahl)
+        beiAuswahl();
+    return true;
 }
 
 void ListView::dragEnterEvent(QDragEnterEvent* ereignis)

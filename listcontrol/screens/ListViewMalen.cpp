@@ -1,12 +1,11 @@
 #include "listcontrol/screens/ListView.h"
 #include "listcontrol/screens/Listenkopf.h"
+#include "shell/elements/Fokusrahmen.h"
 #include "shell/elements/Utf8.h"
 
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QToolTip>
 
 #include <exception>
@@ -106,6 +105,16 @@ QString ListView::zeilentext(int zeile) const
     return text;
 }
 
+QString ListView::kopierzeile(int zeile) const
+{
+    const ListItem& posten = posten_.Item(zeile);
+    QStringList zellen;
+    for (const Spaltenlage::Platz& platz : lage_.plaetze())
+        if (!spalten_.Item(platz.spalte).istTrenner())
+            zellen << ::qt(posten.Text(platz.spalte)).replace('\n', ' ');
+    return zellen.join('\t');
+}
+
 Zellfarben ListView::farben(int zeile, int spalte) const
 {
     const bool gewaehlt = isEnabled() && posten_.Item(zeile).Selected();
@@ -146,7 +155,7 @@ void ListView::maleZeile(QPainter& maler, int zeile, const QRect& rechteck)
         maleInhalt(maler, feld, zeile, platz.spalte);
     }
     if (hasFocus() && zeile == auswahl_.fokus())
-        maleFokus(maler, {rechteck.left(), rechteck.top(), lage_.gesamtbreite(), rechteck.height()});
+        maleZeilenfokus(maler, {rechteck.left(), rechteck.top(), lage_.gesamtbreite(), rechteck.height()});
 }
 
 void ListView::maleInhalt(QPainter& maler, const QRect& zelle, int zeile, int spalte) const
@@ -184,18 +193,16 @@ void ListView::maleKaestchen(QPainter& maler, const QRect& kasten, int zeile) co
     }
 }
 
-void ListView::maleFokus(QPainter& maler, const QRect& zeile) const
+void ListView::maleZeilenfokus(QPainter& maler, const QRect& zeile) const
 {
     if (fokusSolide_) {
-        const QRegion rahmen = QRegion(zeile) - QRegion(zeile.adjusted(1, 1, -1, -1));
-        for (const QRect& kante : rahmen)
-            maler.fillRect(kante, FocusRectColor());
+        maleFokus(maler, zeile, FocusRectColor());
         return;
     }
-    QStyleOptionFocusRect rahmen;
-    rahmen.initFrom(this);
-    rahmen.rect = zeile;
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rahmen, &maler, this);
+    maler.save();
+    maler.setPen(QPen(ForeColor(), 1, Qt::DotLine));
+    maler.drawRect(zeile.adjusted(0, 0, -1, -1));
+    maler.restore();
 }
 
 // --- Changes of the surroundings

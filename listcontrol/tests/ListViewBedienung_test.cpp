@@ -375,4 +375,22 @@ TEST_F(ListViewBedienung, GesperrtNimmtSieNichtsAn)
     EXPECT_EQ(liste->ItemText(0, 4), "9999");
 }
 
+TEST_F(ListViewBedienung, KopiertWasZuSehenIstInDerReihenfolgeDerSpalten)
+{
+    liste->setItemText(1, 2, " 17 ");
+    EXPECT_EQ(liste->kopierzeile(1), "0001\t 17 \t9998");
+    liste->setItemText(1, 4, "oben\nunten");
+    EXPECT_EQ(liste->kopierzeile(1), "0001\t 17 \toben unten");
+    liste->setColumnVisible(2, false);
+    EXPECT_EQ(liste->kopierzeile(1), "0001\toben unten");
+    EXPECT_EQ(liste->zeilentext(1), "0001\t\t 17 \t\toben\nunten");
+}
+
+TEST_F(ListViewBedienung, EineGetippteNummerWaehltIhreZeile)
+{
+    Eingabe::tippe(liste, "67");
+    EXPECT_THAT(gewaehlte(), ElementsAre(67));
+    EXPECT_TRUE(liste->viewport()->rect().contains(liste->zeilenrechteck(67).center()));
+}
+
 } // namespace

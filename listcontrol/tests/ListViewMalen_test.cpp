@@ -312,16 +312,18 @@ TEST_F(ListViewMalen, DerFokusrahmenZeigtSichNurMitFokus)
     liste->setSelectedItem(1);
     liste->setFocusRectColor(Qt::red);
     zeige();
-    const QRect zeile = liste->zeilenrechteck(1);
+    const QPoint oben = liste->zeilenrechteck(1).topLeft() + QPoint(20, 0);
     liste->clearFocus();
-    EXPECT_NE(bild().pixelColor(zeile.topLeft()), QColor(Qt::red));
+    EXPECT_NE(bild().pixelColor(oben), QColor(Qt::red));
     fenster.activateWindow();
     liste->setFocus();
     QApplication::processEvents();
     ASSERT_TRUE(liste->hasFocus());
-    EXPECT_EQ(bild().pixelColor(zeile.topLeft()), QColor(Qt::red));
+    EXPECT_EQ(bild().pixelColor(oben), QColor(Qt::red));
+    EXPECT_EQ(bild().pixelColor(oben + QPoint(0, 1)), QColor(Qt::red));
+    EXPECT_NE(bild().pixelColor(oben + QPoint(0, 2)), QColor(Qt::red));
     liste->setSolidFocusRect(false);
-    EXPECT_NE(bild().pixelColor(zeile.topLeft()), QColor(Qt::red));
+    EXPECT_NE(bild().pixelColor(oben), QColor(Qt::red));
 }
 
 TEST_F(ListViewMalen, KaestchenUndBilderStehenVorDemText)

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPainter>
@@ -26,6 +28,13 @@ int zeigeBox(QMessageBox::Icon bild, const QString& titel, const QString& text, 
     if (QAbstractButton* nein = box.button(QMessageBox::No))
         nein->setText("Nein");
     return box.exec();
+}
+
+/// The proposed file, in the home folder where there is no such folder.
+QString vorhandenerOrt(const QString& pfad)
+{
+    const QFileInfo vorschlag(pfad);
+    return vorschlag.dir().exists() ? pfad : QDir::home().filePath(vorschlag.fileName());
 }
 
 void spiele(QObject* spieler, int nummer)
@@ -62,7 +71,7 @@ std::optional<QString> FensterBoxen::eingabe(const QString& titel, const QString
 
 std::optional<QString> FensterBoxen::datei(const DateiFrage& frage)
 {
-    QFileDialog dialog(QApplication::activeWindow(), frage.titel, frage.pfad, frage.filter);
+    QFileDialog dialog(QApplication::activeWindow(), frage.titel, vorhandenerOrt(frage.pfad), frage.filter);
     dialog.setAcceptMode(frage.speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(frage.speichern ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !frage.frageVorUeberschreiben);
@@ -82,7 +91,7 @@ QString SystemZwischenablage::text() const
     return QGuiApplication::clipboard()->text();
 }
 
-bool StandardDrucker::drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male)
+bool StandardDrucker::drucke(const QString& titel, const Maler& male)
 {
     const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
     if (standard.isNull())

@@ -22,7 +22,7 @@ public:
 
 class StandardDrucker final : public Drucker {
 public:
-    bool drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male) override;
+    bool drucke(const QString& titel, const Maler& male) override;
 };
 
 /// Plays on a thread of its own: looking for the sound device may take seconds on some machines.

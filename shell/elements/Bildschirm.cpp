@@ -8,6 +8,7 @@
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/ClipReport.h"
+#include "shell/logic/Format.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -19,9 +20,16 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 constexpr auto kHinweis = "hinweis";
 } // namespace
+
+QString zeilenangabe(qsizetype anzahl)
+{
+    return anzahl == 1 ? "1 Zeile" : qt(Format(anzahl, "#,###,##0")) + " Zeilen";
+}
 
 void setzeHinweis(QWidget* feld, const QString& text)
 {
@@ -55,8 +63,26 @@ void Bildschirm::setzeTitel(const QString& text)
     zeigeStatus(text);
 }
 
+void Bildschirm::melde(const QString& text)
+{
+    if (!statuszeile_)
+        return;
+    statuszeile_->setText(text);
+    meldet_ = true;
+}
+
+void Bildschirm::uebertrage(const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    umgebung_.zwischenablage.setze(text);
+    const qsizetype zeilen = text.count('\n') + (text.endsWith('\n') ? 0 : 1);
+    melde(zeilenangabe(zeilen) + " in die Zwischenablage übertragen");
+}
+
 void Bildschirm::zeigeStatus(const QString& text)
 {
+    meldet_ = false;
     setWindowTitle(text);
     if (statuszeile_)
         statuszeile_->setText(text.simplified());
@@ -64,7 +90,8 @@ void Bildschirm::zeigeStatus(const QString& text)
 
 void Bildschirm::mausUeber(QWidget* feld)
 {
-    if (laeuft())
+    const bool nochDort = std::exchange(unterMaus_, feld) == feld;
+    if (laeuft() || (meldet_ && nochDort))
         return;
     const QString text = hinweisVon(feld);
     if (!text.isEmpty())
@@ -113,7 +140,7 @@ QLabel* Bildschirm::listenkopf(const QString& name, const QString& text)
 {
     QLabel* kopf = bezeichnung(name, text);
     kopf->setFont(Stil::festeSchrift());
-    kopf->setIndent(Liste::kEinzug + 1);
+    kopf->setIndent(Liste::kEinzug + Stil::kFokus);
     return kopf;
 }
 
@@ -153,11 +180,7 @@ QPushButton* Bildschirm::clipBefehl(const QString& name, const std::function<std
 {
     QPushButton* knopf = befehl(name, qt(kClipBefehl));
     knopf->setToolTip(qt(kClipHinweis));
-    bei(knopf, [this, bericht] {
-        const std::string text = bericht();
-        if (!text.empty())
-            umgebung_.zwischenablage.setze(qt(text));
-    });
+    bei(knopf, [this, bericht] { uebertrage(qt(bericht())); });
     return knopf;
 }
 

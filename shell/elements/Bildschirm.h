@@ -39,6 +39,9 @@ inline Ab ab(int erster)
     return {erster};
 }
 
+/// "1 Zeile", "3.693 Zeilen".
+QString zeilenangabe(qsizetype anzahl);
+
 /// Sets or replaces the hint of a control. A hint holds for the children of a control too.
 void setzeHinweis(QWidget* feld, const QString& text);
 /// The hint of a control, or of the nearest one around it that has one; empty without any.
@@ -58,6 +61,13 @@ public:
     /// The text that the title falls back to.
     void setzeGrundtitel(const QString& text) { grundtitel_ = text; }
     const QString& grundtitel() const { return grundtitel_; }
+    /// The title without a hint over it.
+    const QString& stand() const { return stand_; }
+    /// Says something in passing in the strip at the foot, until the next text or until the mouse goes to another
+    /// control. The title stays.
+    void melde(const QString& text);
+    /// Replaces the clipboard and says how many lines were taken. An empty text changes nothing.
+    void uebertrage(const QString& text);
 
     /// True while an evaluation of this screen runs.
     bool laeuft() const { return laeufe_ > 0; }
@@ -141,6 +151,8 @@ private:
     QString grundtitel_;
     QString stand_; ///< the title without a hint over it
     QLabel* statuszeile_ = nullptr;
+    const QWidget* unterMaus_ = nullptr; ///< the control that the mouse was seen over last; only to be compared
+    bool meldet_ = false;                ///< the strip says something in passing
     int laeufe_ = 0;
     bool stopp_ = false;
     bool schliesstNachLauf_ = false;

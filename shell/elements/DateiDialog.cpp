@@ -5,6 +5,7 @@
 #include "shell/logic/Texte.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace {
@@ -36,4 +37,18 @@ QString DateiDialog(Umgebung& umgebung, const QString& dateiname, QString& pfad,
     const QString name = qt(DateiName(utf8(*gewaehlt)));
     pfad = gewaehlt->left(gewaehlt->size() - name.size());
     return name;
+}
+
+QString dateinameAus(const QString& titel, const QString& endung)
+{
+    static const QRegularExpression nachsatz("[,;:(].*");
+    static const QRegularExpression verbotene(R"([\\/*?"<>|[:cntrl:]])");
+    static const QRegularExpression punkteAmEnde("[. ]+$");
+    return QString(titel).remove(nachsatz).replace(verbotene, " ").simplified().remove(punkteAmEnde) + "." + endung;
+}
+
+void meldeNichtGeschrieben(Umgebung& umgebung, const QString& name, const DateiErgebnis& ergebnis)
+{
+    umgebung.boxen.info(kProgrammtitel,
+                        "Die Datei " + name + " konnte nicht geschrieben werden.\n" + qt(ergebnis.meldung));
 }

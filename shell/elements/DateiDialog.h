@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/elements/Umgebung.h"
+#include "shell/logic/Dateien.h"
 
 enum class DateiModus {
     Oeffnen = 0,           ///< the file must exist
@@ -31,3 +32,10 @@ inline QString DateiSpeichernOhneFrage(Umgebung& umgebung, const QString& datein
 {
     return DateiDialog(umgebung, dateiname, pfad, filter, titel, standardendung, DateiModus::SpeichernOhneFrage);
 }
+
+/// The name to propose for what a screen of this title saves: the title up to its first pause, without the characters
+/// that some system forbids.
+QString dateinameAus(const QString& titel, const QString& endung);
+
+/// The box after a file could not be written.
+void meldeNichtGeschrieben(Umgebung& umgebung, const QString& name, const DateiErgebnis& ergebnis);

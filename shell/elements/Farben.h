@@ -15,6 +15,9 @@ inline const QColor Text{0, 0, 0};
 inline const QColor Fuss{0, 22, 0}; ///< the dark bar at the foot of every screen
 inline const QColor FussText{198, 232, 198};
 inline const QColor Gelaufen{178, 220, 192}; ///< the start button that has made what the screen shows
+inline const QColor Rollbahn{222, 227, 222}; ///< of a scroll bar
+inline const QColor Griff{134, 150, 138};    ///< its handle
+inline const QColor GriffUnterMaus{104, 124, 110};
 
 /// The one light palette of the program, so that told colours are readable on dark desktops too.
 QPalette palette();

@@ -1,20 +1,22 @@
 #include "shell/elements/Liste.h"
 
+#include "shell/elements/Fokusrahmen.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 Liste::Liste(QWidget* eltern, ListenModell::Eigenschaften eigenschaften) : Zeilenansicht(eltern), modell_(eigenschaften)
 {
     setFont(Stil::festeSchrift());
     modell_.beiAenderung([this](ListenModell::Aenderung aenderung) {
-        if (aenderung == ListenModell::Aenderung::Zeilen)
-            breite_ = 0;
-        erneuere();
+        if (aenderung == ListenModell::Aenderung::Auswahl) {
+            erneuere();
+            return;
+        }
+        breite_ = 0;
+        erneuereZeilen();
     });
 }
 
@@ -45,12 +47,8 @@ void Liste::maleZeile(QPainter& maler, int zeile, const QRect& rechteck)
     maler.fillRect(rechteck, farben.grund);
     maler.setPen(farben.schrift);
     maler.drawText(rechteck.adjusted(kEinzug, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
-    if (hasFocus() && zeile == fokuszeile()) {
-        QStyleOptionFocusRect rahmen;
-        rahmen.initFrom(this);
-        rahmen.rect = rechteck;
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rahmen, &maler, this);
-    }
+    if (hasFocus() && zeile == fokuszeile())
+        maleFokus(maler, rechteck, palette().color(QPalette::Highlight));
 }
 
 void Liste::waehle(int zeile, Qt::KeyboardModifiers tasten)
@@ -82,10 +80,25 @@ void Liste::setzeAuswahl(int zeile)
     modell_.SetSelected(static_cast<std::size_t>(zeile), true);
 }
 
+void Liste::waehleVonBis(int von, int bis)
+{
+    for (int zeile = von; zeile <= bis; ++zeile)
+        modell_.SetSelected(static_cast<std::size_t>(zeile), true);
+}
+
 void Liste::waehleBereich(int zeile)
 {
     setzeAuswahl(zeile);
     const auto [von, bis] = std::minmax(anker_, zeile);
-    for (int i = von; i <= bis; ++i)
-        modell_.SetSelected(static_cast<std::size_t>(i), true);
+    waehleVonBis(von, bis);
+}
+
+bool Liste::waehleAlle()
+{
+    if (!modell_.MultiSelect())
+        return false;
+    waehleVonBis(0, zeilenzahl() - 1);
+    if (beiAuswahl)
+        beiAuswahl();
+    return true;
 }

@@ -20,6 +20,8 @@ public:
     int zeilenzahl() const override { return static_cast<int>(modell_.ListCount()); }
     QString zeilentext(int zeile) const override;
     bool istGewaehlt(int zeile) const override { return modell_.Selected(static_cast<std::size_t>(zeile)); }
+    int fokuszeile() const override { return static_cast<int>(modell_.ListIndex()); }
+    bool waehleAlle() override;
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override { return minimumSizeHint(); }
 
@@ -27,11 +29,11 @@ protected:
     void maleZeile(QPainter& maler, int zeile, const QRect& rechteck) override;
     int zeilenhoehe() const override { return fontMetrics().height() + 2; }
     int zeilenbreite() const override { return breite_; }
-    int fokuszeile() const override { return static_cast<int>(modell_.ListIndex()); }
     void waehle(int zeile, Qt::KeyboardModifiers tasten) override;
     void schalte(int zeile) override;
 
 private:
+    void waehleVonBis(int von, int bis);
     void waehleBereich(int zeile);
     void setzeAuswahl(int zeile);
 

@@ -10,6 +10,7 @@ namespace Stil {
 inline constexpr int kAbstand = 8; ///< between the parts of a screen
 inline constexpr int kRand = 12;   ///< around a screen
 inline constexpr int kEng = 4;     ///< between a label and its field
+inline constexpr int kFokus = 2;   ///< width of the frame around what has the focus
 
 void richteEin(QApplication& programm);
 

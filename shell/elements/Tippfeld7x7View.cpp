@@ -1,6 +1,7 @@
 #include "shell/elements/Tippfeld7x7View.h"
 
 #include "shell/elements/Farben.h"
+#include "shell/elements/Fokusrahmen.h"
 #include "shell/elements/Zelle.h"
 #include "shell/logic/Lottozahl.h"
 
@@ -11,6 +12,7 @@
 namespace {
 constexpr int kZellseite = 30;
 constexpr int kSteg = 4;
+constexpr int kRahmen = kSteg - 1; ///< of the focus around a cell, clear of the next one
 } // namespace
 
 Tippfeld7x7View::Tippfeld7x7View(const QString& name, Art art, QWidget* eltern) : QWidget(eltern), art_(art)
@@ -91,6 +93,6 @@ void Tippfeld7x7View::paintEvent(QPaintEvent*)
     if (!hasFocus() || art_ == Art::NurAnzeige)
         return;
     QPainter maler(this);
-    maler.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    maler.drawRect(zellen_[static_cast<std::size_t>(fokuszahl_)]->geometry().adjusted(-2, -2, 2, 2));
+    const QRect zelle = zellen_[static_cast<std::size_t>(fokuszahl_)]->geometry();
+    maleFokus(maler, zelle.adjusted(-kRahmen, -kRahmen, kRahmen, kRahmen), palette().color(QPalette::Highlight));
 }

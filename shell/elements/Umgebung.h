@@ -47,9 +47,12 @@ public:
 /// The default printer of the system.
 class Drucker {
 public:
+    /// Paints the pages of a job.
+    using Maler = std::function<void(QPainter&, QPagedPaintDevice&)>;
+
     virtual ~Drucker() = default;
     /// Prints one job: `male` gets an active painter and the page device. False if there is no printer or it fails.
-    virtual bool drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male) = 0;
+    virtual bool drucke(const QString& titel, const Maler& male) = 0;
 };
 
 class Klang {

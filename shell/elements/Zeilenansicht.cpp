@@ -1,6 +1,9 @@
 #include "shell/elements/Zeilenansicht.h"
 
+#include "shell/elements/Listenhandgriffe.h"
+
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -9,7 +12,7 @@
 #include <array>
 #include <utility>
 
-Zeilenansicht::Zeilenansicht(QWidget* eltern) : QAbstractScrollArea(eltern)
+Zeilenansicht::Zeilenansicht(QWidget* eltern) : QAbstractScrollArea(eltern), handgriffe_(new Listenhandgriffe(*this))
 {
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Base);
@@ -21,6 +24,15 @@ std::vector<Zellfarben> Zeilenansicht::zellfarben(int zeile) const
     const bool gewaehlt = istGewaehlt(zeile);
     return {{palette().color(gewaehlt ? QPalette::Highlight : QPalette::Base),
              palette().color(gewaehlt ? QPalette::HighlightedText : QPalette::Text)}};
+}
+
+std::vector<int> Zeilenansicht::gewaehlteZeilen() const
+{
+    std::vector<int> gewaehlte;
+    for (int zeile = 0; zeile < zeilenzahl(); ++zeile)
+        if (istGewaehlt(zeile))
+            gewaehlte.push_back(zeile);
+    return gewaehlte;
 }
 
 int Zeilenansicht::obersteZeile() const
@@ -69,6 +81,12 @@ void Zeilenansicht::erneuere()
 {
     if (!std::exchange(erneuertSich_, true))
         QApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+}
+
+void Zeilenansicht::erneuereZeilen()
+{
+    ++zeilenstand_;
+    erneuere();
 }
 
 bool Zeilenansicht::event(QEvent* ereignis)
@@ -165,6 +183,8 @@ void Zeilenansicht::keyPressEvent(QKeyEvent* ereignis)
     static constexpr std::array kWege = {Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
                                          Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
     const int taste = ereignis->key();
+    if (handgriffe_->nimm(*ereignis))
+        return;
     if (std::find(kWege.begin(), kWege.end(), taste) != kWege.end()) {
         if (zeilenzahl() > 0)
             geheZu(std::clamp(zielzeile(taste), 0, zeilenzahl() - 1), ereignis->modifiers() & ~Qt::KeypadModifier);
@@ -175,6 +195,14 @@ void Zeilenansicht::keyPressEvent(QKeyEvent* ereignis)
     } else {
         QAbstractScrollArea::keyPressEvent(ereignis);
     }
+}
+
+void Zeilenansicht::contextMenuEvent(QContextMenuEvent* ereignis)
+{
+    if (ereignis->reason() == QContextMenuEvent::Mouse)
+        handgriffe_->zeigeMenueBei(ereignis->pos());
+    else
+        handgriffe_->zeigeMenue();
 }
 
 void Zeilenansicht::focusInEvent(QFocusEvent* ereignis)

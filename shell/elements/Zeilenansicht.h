@@ -6,6 +6,8 @@
 #include <functional>
 #include <vector>
 
+class Listenhandgriffe;
+
 /// The colours of one painted cell.
 struct Zellfarben {
     QColor grund;
@@ -24,6 +26,19 @@ public:
     virtual bool istGewaehlt(int zeile) const = 0;
     /// The colours that the cells of a row are painted in.
     virtual std::vector<Zellfarben> zellfarben(int zeile) const;
+    /// The text of a row as it is copied: one line, the cells of several columns joined by TAB.
+    virtual QString kopierzeile(int zeile) const { return zeilentext(zeile); }
+    /// The row that the keyboard moves from; -1 for none.
+    virtual int fokuszeile() const = 0;
+
+    /// The chosen rows, ascending.
+    std::vector<int> gewaehlteZeilen() const;
+    /// The user goes to a row, with the modifier keys held down; it comes into sight.
+    void geheZu(int zeile, Qt::KeyboardModifiers tasten);
+    /// The user chooses every row. False where only one may be chosen.
+    virtual bool waehleAlle() = 0;
+    /// Another number whenever rows came, went, moved or changed their text.
+    unsigned zeilenstand() const { return zeilenstand_; }
 
     /// Scrolls as little as possible, so that the row is in sight.
     void zeigeZeile(int zeile);
@@ -46,8 +61,6 @@ protected:
     virtual int zeilenhoehe() const = 0;
     /// Width of the rows in pixels, for the horizontal scroll bar.
     virtual int zeilenbreite() const = 0;
-    /// The row that the keyboard moves from; -1 for none.
-    virtual int fokuszeile() const = 0;
     /// The user goes to a row, with the modifier keys held down.
     virtual void waehle(int zeile, Qt::KeyboardModifiers tasten) = 0;
     /// The user presses Space on the focus row.
@@ -58,6 +71,8 @@ protected:
 
     /// Asks for a repaint; the number of rows may have changed. Costs next to nothing while a repaint is due anyway.
     void erneuere();
+    /// The same, and what stands in the rows has changed.
+    void erneuereZeilen();
 
     bool event(QEvent* ereignis) override;
     void paintEvent(QPaintEvent* ereignis) override;
@@ -67,13 +82,15 @@ protected:
     void mouseMoveEvent(QMouseEvent* ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
+    void contextMenuEvent(QContextMenuEvent* ereignis) override;
     void focusInEvent(QFocusEvent* ereignis) override;
     void focusOutEvent(QFocusEvent* ereignis) override;
 
 private:
     int zeilenJeSeite() const;
     int zielzeile(int taste) const;
-    void geheZu(int zeile, Qt::KeyboardModifiers tasten);
 
     bool erneuertSich_ = false; ///< asked for, not yet done
+    unsigned zeilenstand_ = 0;
+    Listenhandgriffe* handgriffe_;
 };

@@ -161,9 +161,26 @@ TEST_F(ElementBaustein, ClipBoardErsetztDieZwischenablageDurchDenBericht)
     buehne.zwischenablage.setze("alt");
     klicke("cmdClip");
     EXPECT_EQ(buehne.zwischenablage.text().toStdString(), bericht);
+    EXPECT_EQ(lies("Statuszeile"), "3 Zeilen in die Zwischenablage übertragen");
+    EXPECT_EQ(titel(), "Probe");
     bericht.clear();
     klicke("cmdClip");
     EXPECT_NE(buehne.zwischenablage.text(), "");
+}
+
+TEST_F(ElementBaustein, WieVielKopiertWurdeStehtDaBisDieMausWeitergeht)
+{
+    zeige([&](Rohbau& rohbau) {
+        return spalte({rohbau.clipBefehl("cmdClip", [] { return std::string("a\r\n"); }),
+                       rohbau.bezeichnung("Bezeichnung1", "Text")});
+    });
+    ueberfahre("cmdClip");
+    klicke("cmdClip");
+    EXPECT_EQ(lies("Statuszeile"), "1 Zeile in die Zwischenablage übertragen");
+    ueberfahre("cmdClip");
+    EXPECT_EQ(lies("Statuszeile"), "1 Zeile in die Zwischenablage übertragen");
+    ueberfahre("Bezeichnung1");
+    EXPECT_EQ(lies("Statuszeile"), "Probe");
 }
 
 TEST_F(ElementBaustein, EinRahmenGibtSeinemTitelPlatz)

@@ -120,6 +120,13 @@ TEST_F(ElementDateiDialog, EinAbbruchLaesstDenPfad)
     EXPECT_EQ(pfad, "/daten/");
 }
 
+TEST(ElementDateinamen, LassenWegWasEinSystemVerbietet)
+{
+    EXPECT_EQ(dateinameAus("Häufigkeit", "pdf"), "Häufigkeit.pdf");
+    EXPECT_EQ(dateinameAus("a/b\\c \"d\" * ?..", "txt"), "a b c d.txt");
+    EXPECT_EQ(dateinameAus("Ausbleibestatistik, nach wieviel Wochen?", "txt"), "Ausbleibestatistik.txt");
+}
+
 TEST(ElementSpezialOrdner, KenntDesktopUndDokumente)
 {
     EXPECT_EQ(SpezialOrdner(0), QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
@@ -261,6 +268,76 @@ TEST_F(ElementZeilendruck, UmlauteUndSpaltenBleibenLesbar)
     ASSERT_EQ(gedruckt->size(), 1);
     EXPECT_TRUE(gedruckt->first().contains("ÄÖÜ äöü ß")) << gedruckt->first().toStdString();
     EXPECT_TRUE(gedruckt->first().contains("12   34")) << gedruckt->first().toStdString();
+}
+
+/// A screen with a button that prints.
+class Druckprobe final : public Bildschirm {
+public:
+    Druckprobe(Umgebung& umgebung, const Druckauftrag& auftrag) : Bildschirm(umgebung, "frmProbe", "Probe")
+    {
+        auto* drucken = befehl("Befehl6", "&Drucken");
+        bei(drucken, [this, auftrag] { druckeZeilen(*this, "Häufigkeit: 6/49", auftrag); });
+        setzeInhalt(spalte({drucken}));
+    }
+};
+
+class ElementDruckbildschirm : public ElementZeilendruck {
+protected:
+    void druckeOhneDrucker()
+    {
+        buehne.bildschirme.registriere("frmProbe",
+                                       [](Umgebung& u) { return std::make_unique<Druckprobe>(u, auftragMit(60)); });
+        oeffne("frmProbe");
+        klicke("Befehl6");
+    }
+
+    const QString frage =
+        "question|Tombrix|Es ist kein Drucker bereit.\nSoll die Liste als PDF-Datei gespeichert werden?";
+};
+
+TEST_F(ElementDruckbildschirm, MitDruckerWirdNichtsGefragt)
+{
+    buehne.drucker.setzeDatei(pdf);
+    druckeOhneDrucker();
+    EXPECT_EQ(seiten(), 2);
+    EXPECT_THAT(boxen(), IsEmpty());
+    EXPECT_EQ(titel(), "Probe");
+}
+
+TEST_F(ElementDruckbildschirm, OhneDruckerEntstehtAufWunschEinPdf)
+{
+    buehne.boxen.antworte("yes");
+    buehne.boxen.antworte("file:" + pdf);
+    druckeOhneDrucker();
+    EXPECT_EQ(seiten(), 2);
+    EXPECT_EQ(titel(), "Es ist kein Standarddrucker eingerichtet.");
+    EXPECT_EQ(lies("Statuszeile"), "Gespeichert in druck.pdf");
+    const QStringList gezeigt = boxen();
+    ASSERT_EQ(gezeigt.size(), 2);
+    EXPECT_EQ(gezeigt[0], frage);
+    EXPECT_TRUE(gezeigt[1].startsWith("file|Als PDF-Datei speichern|"));
+    EXPECT_TRUE(gezeigt[1].endsWith("Häufigkeit.pdf")) << gezeigt[1].toStdString();
+}
+
+TEST_F(ElementDruckbildschirm, EinNeinOderEinAbbruchSchreibtNichts)
+{
+    druckeOhneDrucker();
+    EXPECT_EQ(boxen(), QStringList{frage});
+    buehne.boxen.antworte("yes");
+    klicke("Befehl6");
+    EXPECT_EQ(boxen().size(), 2);
+    EXPECT_FALSE(QFile::exists(pdf));
+    EXPECT_EQ(titel(), "Es ist kein Standarddrucker eingerichtet.");
+}
+
+TEST_F(ElementDruckbildschirm, EinUnschreibbaresPdfWirdGesagt)
+{
+    buehne.boxen.antworte("yes");
+    buehne.boxen.antworte("file:" + ordner.filePath("gibt es nicht/druck.pdf"));
+    druckeOhneDrucker();
+    const QStringList gezeigt = boxen();
+    ASSERT_EQ(gezeigt.size(), 3);
+    EXPECT_TRUE(gezeigt[2].startsWith("info|Tombrix|Die Datei druck.pdf konnte nicht geschrieben werden.\n"));
 }
 
 QColor gemalterGrund(QWidget& feld)

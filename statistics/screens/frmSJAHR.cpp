@@ -105,8 +105,8 @@ frmSJAHR::frmSJAHR(Umgebung& umgebung)
     bei(Befehl2, [this] { schliesse(); });
     bei(Befehl3, [this] { this->umgebung().boxen.info("LOTTO-INFO", kInfo); });
     bei(Befehl4, [this] { zeigeDetails(); });
-    bei(Befehl5, [this] { kopiere(berichtProJahr(ergebnis_, Liste1->modell().zeilen())); });
-    bei(Befehl6, [this] { kopiere(berichtProWoche(ergebnis_, Liste2->modell().zeilen())); });
+    bei(Befehl5, [this] { uebertrage(qt(berichtProJahr(ergebnis_, Liste1->modell().zeilen()))); });
+    bei(Befehl6, [this] { uebertrage(qt(berichtProWoche(ergebnis_, Liste2->modell().zeilen()))); });
 }
 
 void frmSJAHR::beimZeigen()
@@ -160,9 +160,4 @@ void frmSJAHR::zeigeDetails()
     Liste1->modell().fuelle(detailzeilen(ergebnis_.treffer));
     Liste1->zeigeZeile(0);
     setzeTitel(kDetailtitel);
-}
-
-void frmSJAHR::kopiere(const std::string& bericht)
-{
-    umgebung().zwischenablage.setze(qt(bericht));
 }

@@ -22,7 +22,6 @@ private:
     void zeigeStand();
     void zeigeErgebnis();
     void zeigeDetails();
-    void kopiere(const std::string& bericht);
 
     JahrUndWoche ergebnis_;
     Tippfeld7x7View* tippfeld_;

@@ -180,8 +180,7 @@ void frmSTAT1::zeigeGraphik()
 
 void frmSTAT1::drucke()
 {
-    if (!druckeZeilen(umgebung().drucker, kErgebnistitel, druckauftrag(ergebnis_)))
-        setzeTitel("Es ist kein Standarddrucker eingerichtet.");
+    druckeZeilen(*this, kErgebnistitel, druckauftrag(ergebnis_));
 }
 
 bool frmSTAT1::kehrtZumMenueZurueck() const

@@ -230,8 +230,7 @@ void frmZuletzt::zeigeTafel(ZuletztAnsicht ansicht)
 
 void frmZuletzt::drucke()
 {
-    if (!druckeZeilen(umgebung().drucker, grundtitel(), druckauftrag(ergebnis_, ansicht_)))
-        setzeTitel("Es ist kein Standarddrucker eingerichtet.");
+    druckeZeilen(*this, grundtitel(), druckauftrag(ergebnis_, ansicht_));
 }
 
 bool frmZuletzt::kehrtZumMenueZurueck() const

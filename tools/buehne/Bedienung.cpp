@@ -24,15 +24,6 @@ QMenu* offenesMenue(const QAction* eintrag)
     return menue && menue->isVisible() ? menue : nullptr;
 }
 
-QList<int> gewaehlteZeilen(const Zeilenansicht& ansicht)
-{
-    QList<int> gewaehlt;
-    for (int zeile = 0; zeile < ansicht.zeilenzahl(); ++zeile)
-        if (ansicht.istGewaehlt(zeile))
-            gewaehlt.push_back(zeile);
-    return gewaehlt;
-}
-
 /// Where the mouse goes for a named control: to its middle, in a list to the chosen row.
 struct Mausziel {
     explicit Mausziel(QWidget* ganzes) : feld(ganzes), ort(ganzes->rect().center())
@@ -42,9 +33,9 @@ struct Mausziel {
             ort = feld->rect().center();
         }
         auto* liste = dynamic_cast<Zeilenansicht*>(ganzes);
-        const QList<int> gewaehlt = liste ? gewaehlteZeilen(*liste) : QList<int>();
-        if (!gewaehlt.isEmpty())
-            ort = zeilenort(*liste, gewaehlt.first());
+        const std::vector<int> gewaehlt = liste ? liste->gewaehlteZeilen() : std::vector<int>();
+        if (!gewaehlt.empty())
+            ort = zeilenort(*liste, gewaehlt.front());
     }
 
     static QPoint zeilenort(Zeilenansicht& liste, int zeile)
@@ -305,7 +296,7 @@ Antwort Bedienung::gewaehlte(const QString& name)
     if (!liste)
         return antwort;
     QStringList nummern;
-    for (const int zeile : gewaehlteZeilen(*liste))
+    for (const int zeile : liste->gewaehlteZeilen())
         nummern << QString::number(zeile);
     if (!nummern.isEmpty())
         antwort.zeilen << nummern.join(',');

@@ -1,11 +1,11 @@
 #include "tools/buehne/Buehne.h"
 
 #include "shell/elements/Bildschirm.h"
+#include "shell/elements/PdfSeiten.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QPainter>
-#include <QPdfWriter>
+#include <QFile>
 #include <QThread>
 
 #include <utility>
@@ -66,17 +66,10 @@ std::vector<GezeigteBox> AufgezeichneteBoxen::entnehme()
     return std::exchange(gezeigt_, {});
 }
 
-bool PdfDrucker::drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male)
+bool PdfDrucker::drucke(const QString& titel, const Maler& male)
 {
-    if (datei_.isEmpty())
-        return false;
-    QPdfWriter schreiber(datei_);
-    schreiber.setTitle(titel);
-    QPainter maler;
-    if (!maler.begin(&schreiber))
-        return false;
-    male(maler, schreiber);
-    return maler.end();
+    QFile datei(datei_);
+    return !datei_.isEmpty() && datei.open(QIODevice::WriteOnly) && schreibePdf(datei, titel, male);
 }
 
 bool GemerkterOeffner::oeffne(const QString& dateiOderAdresse)

@@ -48,7 +48,7 @@ private:
 /// A default printer that writes a PDF file; without a file name there is no printer.
 class PdfDrucker final : public Drucker {
 public:
-    bool drucke(const QString& titel, const std::function<void(QPainter&, QPagedPaintDevice&)>& male) override;
+    bool drucke(const QString& titel, const Maler& male) override;
     void setzeDatei(const QString& datei) { datei_ = datei; }
 
 private:

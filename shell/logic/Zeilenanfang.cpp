@@ -1,0 +1,47 @@
+#include "shell/logic/Zeilenanfang.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kFelder = 3;
+constexpr std::string_view kLuecken = " \t";
+constexpr std::string_view kZiffern = "0123456789";
+
+/// The next field that begins with a digit, taken off `rest`; empty behind the last one.
+std::string_view naechstesFeld(std::string_view& rest)
+{
+    while (!rest.empty()) {
+        rest.remove_prefix(std::min(rest.find_first_not_of(kLuecken), rest.size()));
+        const std::string_view feld = rest.substr(0, rest.find_first_of(kLuecken));
+        rest.remove_prefix(feld.size());
+        if (!feld.empty() && kZiffern.find(feld.front()) != std::string_view::npos)
+            return feld;
+    }
+    return {};
+}
+
+/// A number without leading zeros: equal texts are equal values.
+std::string_view wert(std::string_view zahl)
+{
+    return zahl.substr(std::min(zahl.find_first_not_of('0'), zahl.size()));
+}
+
+} // namespace
+
+Passung passung(std::string_view zeile, std::string_view getippt)
+{
+    const bool istZahl = getippt.find_first_not_of(kZiffern) == std::string_view::npos;
+    Passung beste = Passung::Keine;
+    for (int i = 0; i < kFelder; ++i) {
+        const std::string_view feld = naechstesFeld(zeile);
+        if (feld.empty())
+            break;
+        const std::string_view zahl = feld.substr(0, feld.find_first_not_of(kZiffern));
+        if (istZahl && wert(zahl) == wert(getippt))
+            beste = std::min(beste, i == 0 ? Passung::ErstesFeld : Passung::Feld);
+        else if (feld.starts_with(getippt))
+            beste = std::min(beste, i == 0 ? Passung::AnfangErstesFeld : Passung::AnfangEinesFeldes);
+    }
+    return beste;
+}
