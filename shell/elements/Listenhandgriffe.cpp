@@ -13,10 +13,9 @@
 #include <QKeyEvent>
 #include <QMenu>
 
-#include <optional>
-
 namespace {
 
+constexpr QLatin1String kZeilenende("\r\n");
 constexpr int kAufEinmal = 20'000;             ///< so many rows are handed out at once
 constexpr int kHoechstensKopierte = 5'000'000; ///< what a clipboard takes
 
@@ -82,13 +81,10 @@ void Listenhandgriffe::kopiere(const Zeilenwahl& wahl)
         return;
     }
     QString text;
-    const bool ganz = reicheAus(wahl, [&text](const QString& zeile) {
-        if (!text.isEmpty())
-            text += "\r\n";
-        text += zeile;
-    });
-    if (ganz)
-        schirm->uebertrage(text);
+    if (!reicheAus(wahl, [&text](const QString& zeile) { text += zeile + kZeilenende; }))
+        return;
+    text.chop(kZeilenende.size());
+    schirm->uebertrage(text);
 }
 
 void Listenhandgriffe::speichere()
@@ -103,7 +99,8 @@ void Listenhandgriffe::speichere()
         return;
     AtomareDatei datei(utf8(pfad + name));
     const Zeilenwahl wahl = alle();
-    if (!reicheAus(wahl, [&datei](const QString& zeile) { datei.schreibe(nachWindows1252(utf8(zeile)) + "\r\n"); }))
+    if (!reicheAus(wahl,
+                   [&datei](const QString& zeile) { datei.schreibe(nachWindows1252(utf8(zeile + kZeilenende))); }))
         return;
     if (const DateiErgebnis ergebnis = datei.uebernimm(); !ergebnis)
         meldeNichtGeschrieben(schirm->umgebung(), name, ergebnis);
@@ -111,34 +108,40 @@ void Listenhandgriffe::speichere()
         schirm->melde(zeilenangabe(wahl.anzahl) + " gespeichert in " + name);
 }
 
-bool Listenhandgriffe::reicheAus(const Zeilenwahl& wahl, const std::function<void(const QString&)>& nimm)
+bool Listenhandgriffe::reicheAus(const Zeilenwahl& wahl, const Abnehmer& nimm)
 {
+    if (wahl.anzahl <= kAufEinmal)
+        return geheDurch(wahl, nimm, {});
     Bildschirm& schirm = *bildschirm();
     const QString titel = schirm.stand();
-    const unsigned zeilenstand = ansicht_.zeilenstand();
-    bool ganz = true;
+    bool ganz = false;
     {
-        std::optional<Lauf> lauf;
-        if (wahl.anzahl > kAufEinmal)
-            lauf.emplace(schirm);
-        if (lauf && !*lauf) {
+        Lauf lauf(schirm);
+        if (!lauf) {
             schirm.melde("Bitte warten, bis die Auswertung beendet ist.");
             return false;
         }
         reichtAus_ = true;
-        for (int i = 0; i < wahl.anzahl && ganz; ++i) {
-            nimm(ansicht_.kopierzeile(wahl[i]));
-            ganz = (!lauf || lauf->weiter()) && zeilenstand == ansicht_.zeilenstand();
-        }
+        ganz = geheDurch(wahl, nimm, lauf.fortschritt());
         reichtAus_ = false;
-        if (!lauf)
-            return ganz;
     }
-    if (zeilenstand == ansicht_.zeilenstand())
+    if (schirm.stand() == schirm.grundtitel())
         schirm.setzeTitel(titel);
     if (!ganz)
         schirm.melde("Abgebrochen: es wurde nichts übertragen.");
     return ganz;
+}
+
+bool Listenhandgriffe::geheDurch(const Zeilenwahl& wahl, const Abnehmer& nimm, const Fortschritt& weiter) const
+{
+    const unsigned zeilenstand = ansicht_.zeilenstand();
+    for (int i = 0; i < wahl.anzahl; ++i) {
+        nimm(ansicht_.kopierzeile(wahl[i]));
+        const bool soll = !weiter || weiter(static_cast<std::uint64_t>(i));
+        if (!soll || zeilenstand != ansicht_.zeilenstand())
+            return false;
+    }
+    return true;
 }
 
 void Listenhandgriffe::zeigeMenueBei(QPoint ort)

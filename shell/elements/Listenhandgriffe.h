@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/logic/Fortschritt.h"
+
 #include <QObject>
 
 #include <functional>
@@ -36,6 +38,8 @@ private:
         int operator[](int i) const { return einzelne.empty() ? i : einzelne[static_cast<std::size_t>(i)]; }
     };
 
+    using Abnehmer = std::function<void(const QString& zeile)>;
+
     Bildschirm* bildschirm() const;
     Zeilenwahl alle() const;
     /// The chosen rows, or else the one that the keyboard moves from.
@@ -45,7 +49,8 @@ private:
     void speichere();
     /// Hands out the rows one by one. False if the user has stopped it or the list has changed meanwhile, and the
     /// screen says so.
-    bool reicheAus(const Zeilenwahl& wahl, const std::function<void(const QString& zeile)>& nimm);
+    bool reicheAus(const Zeilenwahl& wahl, const Abnehmer& nimm);
+    bool geheDurch(const Zeilenwahl& wahl, const Abnehmer& nimm, const Fortschritt& weiter) const;
 
     void baueMenue();
     void oeffneMenue(QPoint ort);

@@ -107,6 +107,14 @@ TEST_F(Listenhandgriff, DasMenueKopiertAlles)
     EXPECT_EQ(status(), "3 Zeilen in die Zwischenablage übertragen");
 }
 
+TEST_F(Listenhandgriff, AuchLeereZeilenWerdenKopiert)
+{
+    zeige().modell().fuelle({"", "a", "", "b", ""});
+    druecke("Shift+F10");
+    klicke("Liste1AllesKopieren");
+    EXPECT_EQ(kopiert(), "\r\na\r\n\r\nb\r\n");
+}
+
 TEST_F(Listenhandgriff, DasMenueNenntSeineEintraege)
 {
     zeigeZeilen(3);
