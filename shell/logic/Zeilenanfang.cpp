@@ -1,6 +1,7 @@
 #include "shell/logic/Zeilenanfang.h"
 
 #include <algorithm>
+#include <string>
 
 namespace {
 
@@ -21,6 +22,23 @@ std::string_view naechstesFeld(std::string_view& rest)
     return {};
 }
 
+/// The digits that a field begins with, over the points between groups of three: 82684 of "82.684", 9 of "9.10.1955".
+std::string ziffern(std::string_view feld)
+{
+    constexpr std::size_t kGruppe = 3;
+    std::string zahl;
+    while (!feld.empty()) {
+        const std::size_t laenge = std::min(feld.find_first_not_of(kZiffern), feld.size());
+        if (!zahl.empty() && laenge != kGruppe)
+            break;
+        zahl += feld.substr(0, laenge);
+        if (feld.size() == laenge || feld[laenge] != '.')
+            break;
+        feld.remove_prefix(laenge + 1);
+    }
+    return zahl;
+}
+
 /// A number without leading zeros: equal texts are equal values.
 std::string_view wert(std::string_view zahl)
 {
@@ -37,10 +55,10 @@ Passung passung(std::string_view zeile, std::string_view getippt)
         const std::string_view feld = naechstesFeld(zeile);
         if (feld.empty())
             break;
-        const std::string_view zahl = feld.substr(0, feld.find_first_not_of(kZiffern));
+        const std::string zahl = ziffern(feld);
         if (istZahl && wert(zahl) == wert(getippt))
             beste = std::min(beste, i == 0 ? Passung::ErstesFeld : Passung::Feld);
-        else if (feld.starts_with(getippt))
+        else if (feld.starts_with(getippt) || zahl.starts_with(getippt))
             beste = std::min(beste, i == 0 ? Passung::AnfangErstesFeld : Passung::AnfangEinesFeldes);
     }
     return beste;

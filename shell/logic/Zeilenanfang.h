@@ -12,6 +12,7 @@ enum class Passung {
 };
 
 /// Looks at the first three fields of a row that begin with a digit; fields are separated by blanks and tabs. A field
-/// is the typed number if the digits that it begins with have the same value: "17" is "0017", and "1998" is "1998/05".
+/// is the typed number if the digits that it begins with have the same value: "17" is "0017", "1998" is "1998/05", and
+/// "82684" is "82.684".
 /// `getippt` is made of digits and signs between them, as in "1998/05".
 Passung passung(std::string_view zeile, std::string_view getippt);

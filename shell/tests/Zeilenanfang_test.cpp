@@ -34,6 +34,17 @@ TEST(Zeilenanfang, EinAnfangIstWenigerAlsDieZahl)
     EXPECT_LT(Passung::AnfangErstesFeld, Passung::AnfangEinesFeldes);
 }
 
+TEST(Zeilenanfang, GruppenEinerGrossenZahlGehoerenZusammen)
+{
+    EXPECT_EQ(passung("      82.684  ->  1970/24", "82684"), Passung::ErstesFeld);
+    EXPECT_EQ(passung("      82.684  ->  1970/24", "8268"), Passung::AnfangErstesFeld);
+    EXPECT_EQ(passung("      82.684  ->  1970/24", "82.6"), Passung::AnfangErstesFeld);
+    EXPECT_EQ(passung("13.983.816 44 45", "13983816"), Passung::ErstesFeld);
+    EXPECT_EQ(passung("9.10.1955", "9"), Passung::ErstesFeld);
+    EXPECT_EQ(passung("9.10.1955", "910"), Passung::Keine);
+    EXPECT_EQ(passung("82.684", "82"), Passung::AnfangErstesFeld);
+}
+
 TEST(Zeilenanfang, NachDemDrittenFeldSiehtNiemandNach)
 {
     EXPECT_EQ(passung(kZiehung, "41"), Passung::Keine);
