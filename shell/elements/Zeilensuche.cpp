@@ -3,6 +3,7 @@
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Utf8.h"
 #include "shell/elements/Zeilenansicht.h"
+#include "shell/logic/Texte.h"
 
 #include <chrono>
 
@@ -13,11 +14,6 @@ using namespace std::chrono_literals;
 constexpr auto kBedenkzeit = 1500ms;
 constexpr auto kScheibe = 12ms; ///< of searching between two turns of the event loop
 constexpr int kJeBlick = 64;    ///< rows between two looks at the clock
-
-bool istZiffer(QChar zeichen)
-{
-    return zeichen >= '0' && zeichen <= '9';
-}
 
 } // namespace
 
@@ -34,7 +30,7 @@ bool Zeilensuche::tippe(const QString& text)
     if (!bedenkzeit_.isActive())
         getippt_.clear();
     const bool gehoertDazu =
-        text.size() == 1 && (istZiffer(text[0]) || (!getippt_.empty() && (text == "/" || text == ".")));
+        text.size() == 1 && (istZiffer(text[0].toLatin1()) || (!getippt_.empty() && (text == "/" || text == ".")));
     if (!gehoertDazu)
         return false;
     getippt_ += utf8(text);

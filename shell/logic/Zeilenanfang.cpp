@@ -1,5 +1,7 @@
 #include "shell/logic/Zeilenanfang.h"
 
+#include "shell/logic/Texte.h"
+
 #include <algorithm>
 #include <string>
 
@@ -16,7 +18,7 @@ std::string_view naechstesFeld(std::string_view& rest)
         rest.remove_prefix(std::min(rest.find_first_not_of(kLuecken), rest.size()));
         const std::string_view feld = rest.substr(0, rest.find_first_of(kLuecken));
         rest.remove_prefix(feld.size());
-        if (!feld.empty() && kZiffern.find(feld.front()) != std::string_view::npos)
+        if (!feld.empty() && istZiffer(feld.front()))
             return feld;
     }
     return {};

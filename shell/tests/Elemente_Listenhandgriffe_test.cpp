@@ -1,5 +1,5 @@
 #include "shell/elements/Zeilenansicht.h"
-#include "shell/logic/Dateien.h"
+#include "shell/logic/Lesedatei.h"
 #include "shell/tests/ElementListe.h"
 
 #include <QContextMenuEvent>
@@ -24,7 +24,8 @@ protected:
         buehne.boxen.antworte("file:" + datei);
         druecke("Shift+F10");
         klicke("Liste1AlsTextdatei");
-        return leseDatei(datei.toStdString(), 1'000'000);
+        const Dateiinhalt inhalt = leseDatei(datei.toStdString(), 1'000'000);
+        return inhalt.ganz() ? std::optional(inhalt.bytes) : std::nullopt;
     }
 
     static void rechtsklick(Liste& liste, QPoint ort)
