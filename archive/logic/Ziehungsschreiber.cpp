@@ -18,7 +18,7 @@ namespace {
 
 using enum Schreibausgang;
 
-constexpr std::chrono::seconds kSperrzeit{3};
+constexpr std::chrono::seconds kSperrzeit{2};
 constexpr std::string_view kGeduldet = " \t\r\n\x1A,"; ///< behind the last record
 
 std::int32_t anzahl(const Ziehungssaetze& saetze)

@@ -11,6 +11,9 @@
 #include "shell/logic/Dateianhang.h"
 #include "shell/logic/Dateisperre.h"
 
+#include <QPointer>
+#include <QWidget>
+
 #include <chrono>
 #include <filesystem>
 #include <optional>
@@ -62,18 +65,46 @@ QString fehlertext(const Schreibergebnis& ergebnis, const QString& datei)
     return AnzeigeTexte::kSchreibfehler;
 }
 
-/// Changes the active Ziehungsdatei; the screen runs while that waits for another program. Nothing, behind a box, after
-/// an error.
+/// The screen while it waits for another program: it stays alive but takes no input, since what has been begun is to be
+/// ended first.
+class Wartestand {
+public:
+    explicit Wartestand(Bildschirm& bildschirm)
+        : bildschirm_(bildschirm),
+          lauf_(bildschirm, "Ein anderes Programm ändert die Ziehungsdatei. Bitte warten !"),
+          fokus_(bildschirm.focusWidget())
+    {
+        bildschirm_.setEnabled(false);
+    }
+    Wartestand(const Wartestand&) = delete;
+    Wartestand& operator=(const Wartestand&) = delete;
+    ~Wartestand()
+    {
+        bildschirm_.setEnabled(true);
+        if (fokus_)
+            fokus_->setFocus();
+    }
+
+    /// False if the screen is closed meanwhile.
+    bool weiter() { return lauf_.weiter(); }
+
+private:
+    Bildschirm& bildschirm_;
+    Lauf lauf_;
+    QPointer<QWidget> fokus_;
+};
+
+/// Changes the active Ziehungsdatei. Nothing, behind a box, after an error.
 template <class Schreibe> std::optional<std::int32_t> schreibeMitPause(Bildschirm& bildschirm, Schreibe schreibe)
 {
     Umgebung& umgebung = bildschirm.umgebung();
-    Schreibergebnis ergebnis;
-    {
-        Lauf lauf(bildschirm);
-        if (!lauf)
-            return std::nullopt;
-        ergebnis = schreibe([&lauf] { return lauf.weiter(); });
-    }
+    std::optional<Wartestand> wartestand;
+    const Schreibergebnis ergebnis = schreibe([&] {
+        if (!wartestand)
+            wartestand.emplace(bildschirm);
+        return wartestand->weiter();
+    });
+    wartestand.reset();
     if (ergebnis.ausgang == Schreibausgang::Gut)
         return ergebnis.nr;
     umgebung.boxen.info(kProgrammtitel, fehlertext(ergebnis, qt(ziehungsdateiName(umgebung.archiv.Spielart))));

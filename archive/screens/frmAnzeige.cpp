@@ -251,8 +251,6 @@ void frmAnzeige::erzeugeDatei()
 
 void frmAnzeige::schalteAufMenue(std::int16_t spielart)
 {
-    if (laeuft())
-        return;
     const WarteAnzeige warten(*this);
     umgebung().menue->waehleSpielart(spielart);
     Bezeichnung13->setText(spielname(spielart));
@@ -261,8 +259,6 @@ void frmAnzeige::schalteAufMenue(std::int16_t spielart)
 
 void frmAnzeige::schalteAufMittwochB()
 {
-    if (laeuft())
-        return;
     ladeSpielart(umgebung(), MittwochslottoB);
     Bezeichnung13->setText("MITTWOCHSLOTTO (B)");
     frischeAuf();
@@ -270,8 +266,6 @@ void frmAnzeige::schalteAufMittwochB()
 
 void frmAnzeige::ladeNeu()
 {
-    if (laeuft())
-        return;
     const WarteAnzeige warten(*this, "Die 'Historischen Ziehungszahlen' werden aktualisiert und neu geladen...");
     ladeSpielart(umgebung(), umgebung().archiv.Spielart);
     frischeAuf();

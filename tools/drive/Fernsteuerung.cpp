@@ -151,6 +151,13 @@ bool Fernsteuerung::istRuhe()
     return !istSchliessen() && !(bildschirm && bildschirm->laeuft());
 }
 
+/// False while the current screen lets nobody work on it, which a user would have to wait for too.
+bool Fernsteuerung::nimmtEingaben()
+{
+    const Bildschirm* bildschirm = bedienung_.aktuell();
+    return !bildschirm || bildschirm->isEnabled();
+}
+
 bool Fernsteuerung::istSchliessen() const
 {
     const std::vector<Bildschirm*> geladene = buehne_.bildschirme.geladene();
@@ -159,7 +166,7 @@ bool Fernsteuerung::istSchliessen() const
 
 void Fernsteuerung::arbeite()
 {
-    if (endet_ || wartet())
+    if (endet_ || wartet() || !nimmtEingaben())
         return;
     if (wartezeit_ >= 0) {
         wartezeit_ = -1;

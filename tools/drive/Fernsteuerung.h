@@ -33,6 +33,7 @@ private:
     void fuehreAus(const QString& zeile);
     void gibAus(const Antwort& antwort);
     bool wartet();
+    bool nimmtEingaben();
     bool istRuhe();
     bool istSchliessen() const;
     void ende();
