@@ -35,7 +35,7 @@ Spielartenwahl::Spielartenwahl(Bildschirm& bildschirm, const SpielartenwahlNamen
     }
     lblTipp = new QLabel(this);
     lblTipp->setObjectName(namen.anzahl);
-    setzeInhalt(spalte({eng(raster(2, felder)), lblTipp}));
+    setzeInhalt(eng(spalte({eng(raster(2, felder)), lblTipp})));
     lade();
 }
 

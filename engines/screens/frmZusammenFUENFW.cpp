@@ -26,6 +26,7 @@ frmZusammenFÜNFW::frmZusammenFÜNFW(Umgebung& umgebung)
                             [this] { return nieGezogeneBericht(spieleDerNieGezogenen_, lstNGD->modell().zeilen()); });
     cmdClipNGD->setText("Clip");
     lstNGD->setzeSichtbar(8, 11);
+    lblCaption->setWordWrap(true);
 
     // clang-format off
     setzeInhalt(spalte({

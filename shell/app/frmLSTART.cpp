@@ -5,6 +5,7 @@
 #include "shell/app/Rollo.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Farben.h"
+#include "shell/elements/Fensterplatz.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
@@ -94,9 +95,7 @@ frmLSTART::frmLSTART(Umgebung& umgebung) : Bildschirm(umgebung, "frmLSTART", kTi
     });
     // clang-format on
     oben->setContentsMargins(Stil::kRand, Stil::kRand, Stil::kRand, Stil::kRand);
-    auto* ganz = spalte({dehnbar(oben), baueFuss()});
-    ganz->setSpacing(0);
-    setLayout(ganz);
+    setzeInhalt(oben, baueFuss());
 
     bei(Option1, [this] { ladeArchiv(Samstagslotto); });
     bei(Option2, [this] { ladeArchiv(Mittwochslotto); });
@@ -225,8 +224,7 @@ bool frmLSTART::istEingebaut(const Menueknopf& knopf) const
 void frmLSTART::zeigeZusammen()
 {
     wechsel_->setCurrentWidget(frameRollo);
-    const QRect schirm = screen()->availableGeometry();
-    move(schirm.center() - QPoint(width() / 2, height() / 2));
+    Fensterplatz::zentriere(*this);
 }
 
 /// Of the archive as it is now. With the combined tools, and without a draw, the line stays as it is.

@@ -2,9 +2,11 @@
 
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Farben.h"
+#include "shell/elements/Fensterplatz.h"
 #include "shell/elements/Fokus.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Rahmen.h"
+#include "shell/elements/Rollinhalt.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/ClipReport.h"
@@ -18,7 +20,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -59,8 +60,21 @@ Bildschirm::~Bildschirm() = default;
 
 void Bildschirm::setzeTitel(const QString& text)
 {
+    ergebnis_ = text;
+    setzeStand(text);
+}
+
+void Bildschirm::setzeStand(const QString& text)
+{
     stand_ = text;
-    zeigeStatus(text);
+    zeigeStand();
+}
+
+void Bildschirm::zeigeStand()
+{
+    zeigeStatus(stand_);
+    if (statuszeile_)
+        statuszeile_->setText((ergebnis_.isEmpty() ? grundtitel_ : ergebnis_).simplified());
 }
 
 void Bildschirm::melde(const QString& text)
@@ -96,10 +110,8 @@ void Bildschirm::mausUeber(QWidget* feld)
     const QString text = hinweisVon(feld);
     if (!text.isEmpty())
         zeigeStatus(text);
-    else if (feld == this)
-        setzeTitel(grundtitel_);
     else
-        zeigeStatus(stand_);
+        setzeStand(feld == this ? grundtitel_ : stand_);
 }
 
 void Bildschirm::setzeInhalt(QLayout* inhalt)
@@ -110,12 +122,12 @@ void Bildschirm::setzeInhalt(QLayout* inhalt)
     statuszeile_->setContentsMargins(Stil::kRand, Stil::kEng, Stil::kRand, Stil::kEng);
     statuszeile_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     faerbe(statuszeile_, Farben::Fuss, Farben::FussText);
+    setzeInhalt(inhalt, statuszeile_);
+}
 
-    auto* ganz = new QVBoxLayout(this);
-    ganz->setContentsMargins(0, 0, 0, 0);
-    ganz->setSpacing(0);
-    ganz->addLayout(inhalt, 1);
-    ganz->addWidget(statuszeile_);
+void Bildschirm::setzeInhalt(QLayout* inhalt, QWidget* fuss)
+{
+    inhalt_ = new Rollinhalt(this, inhalt, fuss, [this] { return Fensterplatz::hoechstgroesse(*this); });
 }
 
 template <class Feld> Feld* Bildschirm::benannt(Feld* feld, const QString& name, const Hinweis& hinweis)
@@ -197,12 +209,28 @@ void Bildschirm::bei(QComboBox* kombi, const std::function<void()>& tue)
 void Bildschirm::showEvent(QShowEvent* ereignis)
 {
     if (!fokusGeordnet_) {
-        ordneFokus(*this);
-        if (QPushButton* haupt = tastatur_.hauptaktionen.knopf())
-            haupt->setFocus();
+        ordneFokus(*this, tastatur_.hauptaktionen.knopf());
         fokusGeordnet_ = true;
     }
     QWidget::showEvent(ereignis);
+    setAttribute(Qt::WA_KeyboardFocusChange); // the focus is seen before the first key
+}
+
+void Bildschirm::resizeEvent(QResizeEvent* ereignis)
+{
+    QWidget::resizeEvent(ereignis);
+    const bool vonSelbst = !ereignis->spontaneous();
+    if (isVisible() && vonSelbst)
+        Fensterplatz::holeHerein(*this);
+}
+
+void Bildschirm::changeEvent(QEvent* ereignis)
+{
+    QWidget::changeEvent(ereignis);
+    if (ereignis->type() != QEvent::ActivationChange || !isActiveWindow() || stehtImRahmen_)
+        return;
+    stehtImRahmen_ = true;
+    Fensterplatz::berichtige(*this);
 }
 
 void Bildschirm::keyPressEvent(QKeyEvent* ereignis)

@@ -20,6 +20,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class Rollinhalt;
 
 /// The hint that the status line shows while the mouse is over a control.
 struct Hinweis {
@@ -55,8 +56,10 @@ public:
 
     Umgebung& umgebung() const { return umgebung_; }
     QString name() const { return objectName(); }
+    Rollinhalt& inhalt() const { return *inhalt_; }
 
-    /// Shows a text in the title until the next one, or until the mouse is over the bare form.
+    /// Shows a text in the title until the next one, or until the mouse is over the bare form, and at the foot until
+    /// the next one.
     void setzeTitel(const QString& text);
     /// The text that the title falls back to.
     void setzeGrundtitel(const QString& text) { grundtitel_ = text; }
@@ -103,6 +106,8 @@ protected:
 
     /// The whole screen: the blocks above, the status line at the foot.
     void setzeInhalt(QLayout* inhalt);
+    /// The same with a foot of the screen's own.
+    void setzeInhalt(QLayout* inhalt, QWidget* fuss);
 
     QPushButton* befehl(const QString& name, const QString& text, const Hinweis& hinweis = {});
     QLabel* bezeichnung(const QString& name, const QString& text = {});
@@ -139,17 +144,24 @@ protected:
     void closeEvent(QCloseEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
+    void changeEvent(QEvent* ereignis) override;
 
 private:
     friend class Lauf;
+    friend class WarteAnzeige;
 
     template <class Feld> Feld* benannt(Feld* feld, const QString& name, const Hinweis& hinweis = {});
+    void setzeStand(const QString& text);
+    void zeigeStand();
     void gehe();
 
     Umgebung& umgebung_;
     Tastatur tastatur_{*this};
     QString grundtitel_;
-    QString stand_; ///< the title without a hint over it
+    QString stand_;    ///< the title without a hint over it
+    QString ergebnis_; ///< the text at the foot without a hint over it; empty: the title it falls back to
+    Rollinhalt* inhalt_ = nullptr;
     QLabel* statuszeile_ = nullptr;
     const QWidget* unterMaus_ = nullptr; ///< the control that the mouse was seen over last; only to be compared
     bool meldet_ = false;                ///< the strip says something in passing
@@ -157,6 +169,7 @@ private:
     bool stopp_ = false;
     bool schliesstNachLauf_ = false;
     bool fokusGeordnet_ = false;
+    bool stehtImRahmen_ = false; ///< the window has been on the desktop, so that its frame is known
 };
 
 template <std::size_t N> void Bildschirm::feld(std::array<QLabel*, N>& felder, const QString& name, Ab ab)

@@ -1,25 +1,11 @@
 #include "shell/elements/BildschirmVerzeichnis.h"
 
 #include "shell/elements/Bildschirm.h"
+#include "shell/elements/Fensterplatz.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Formular.h"
 
-#include <QScreen>
-
 #include <algorithm>
-
-namespace {
-/// Every screen fits on a desktop of this size; a smaller one does not make it smaller.
-constexpr QSize kKleinsterSchirm{1280, 800};
-
-void zentriere(QWidget& fenster)
-{
-    const QRect schirm = fenster.screen()->availableGeometry();
-    fenster.adjustSize();
-    fenster.resize(fenster.sizeHint().boundedTo(schirm.size().expandedTo(kKleinsterSchirm)));
-    fenster.move(schirm.center() - QPoint(fenster.width() / 2, fenster.height() / 2));
-}
-} // namespace
 
 BildschirmVerzeichnis::BildschirmVerzeichnis(Umgebung& umgebung) : umgebung_(umgebung)
 {
@@ -101,7 +87,7 @@ Bildschirm& BildschirmVerzeichnis::oeffne(const QString& name)
     Bildschirm& bildschirm = lade(name);
     if (!bildschirm.isVisible()) {
         bildschirm.beimZeigen();
-        zentriere(bildschirm);
+        Fensterplatz::richteEin(bildschirm);
     }
     bildschirm.show();
     bildschirm.activateWindow();

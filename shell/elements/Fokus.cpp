@@ -3,6 +3,7 @@
 #include <QLayout>
 #include <QWidget>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -30,7 +31,7 @@ void sammle(QLayout* layout, std::vector<QWidget*>& reihe)
 
 } // namespace
 
-void ordneFokus(QWidget& bildschirm)
+void ordneFokus(QWidget& bildschirm, QWidget* zuerst)
 {
     if (!bildschirm.layout())
         return;
@@ -38,4 +39,10 @@ void ordneFokus(QWidget& bildschirm)
     sammle(bildschirm.layout(), reihe);
     for (std::size_t i = 1; i < reihe.size(); ++i)
         QWidget::setTabOrder(reihe[i - 1], reihe[i]);
+    const auto erstes = std::ranges::find_if(
+        reihe, [&](const QWidget* feld) { return feld->isEnabled() && feld->isVisibleTo(&bildschirm); });
+    if (!zuerst && erstes != reihe.end())
+        zuerst = *erstes;
+    if (zuerst)
+        zuerst->setFocus();
 }

@@ -7,7 +7,8 @@
 
 WarteAnzeige::WarteAnzeige(Bildschirm& bildschirm, const QString& text) : bildschirm_(bildschirm), text_(text)
 {
-    bildschirm_.setzeTitel(text_);
+    bildschirm_.setzeStand(text_);
+    bildschirm_.zeigeStatus(text_);
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
@@ -15,7 +16,7 @@ WarteAnzeige::~WarteAnzeige()
 {
     QGuiApplication::restoreOverrideCursor();
     if (bildschirm_.windowTitle() == text_)
-        bildschirm_.setzeTitel(bildschirm_.grundtitel());
+        bildschirm_.setzeStand(bildschirm_.grundtitel());
 }
 
 Lauf::Lauf(Bildschirm& bildschirm, const QString& wartetext)

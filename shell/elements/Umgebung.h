@@ -3,6 +3,7 @@
 #include "shell/logic/Uhr.h"
 #include "shell/logic/Zufall.h"
 
+#include <QRect>
 #include <QString>
 
 #include <cstdint>
@@ -100,6 +101,7 @@ struct Umgebung {
     Uhr& uhr;
     Zufall& zufall;
     Pumpe& pumpe;
+    std::optional<QRect> schreibtisch = {};       ///< the desktop, if it is another one than the screen shows
     BildschirmVerzeichnis* bildschirme = nullptr; ///< set once the screens are registered
     Menue* menue = nullptr;                       ///< set while the selection menu exists
     bool VorschlagLaeuft = false;                 ///< the tip proposals use other screens as their engines

@@ -209,6 +209,40 @@ TEST_F(ElementBildschirm, UeberDerBlossenFormGiltDerGrundtitelDenDerBildschirmGe
     EXPECT_EQ(titel(), "Neuer Grundtitel");
 }
 
+TEST_F(ElementBildschirm, DerFussFaelltAufDasLetzteErgebnisZurueckDerTitelAufDenGrundtitel)
+{
+    Bildschirm& bildschirm = zeige();
+    bildschirm.setzeTitel("Ergebnis");
+    ueberfahre("frmWerkbank");
+    EXPECT_EQ(titel(), "Grundtitel");
+    EXPECT_EQ(lies("Statuszeile"), "Ergebnis");
+    ueberfahre("Befehl1");
+    EXPECT_EQ(lies("Statuszeile"), "Startet.");
+    ueberfahre("Text1");
+    EXPECT_EQ(titel(), "Grundtitel");
+    EXPECT_EQ(lies("Statuszeile"), "Ergebnis");
+}
+
+TEST_F(ElementBildschirm, EineWarteAnzeigeOhneErgebnisLaesstDasLetzteAmFuss)
+{
+    Bildschirm& bildschirm = zeige();
+    bildschirm.setzeTitel("Ergebnis");
+    {
+        const WarteAnzeige anzeige(bildschirm);
+        EXPECT_EQ(lies("Statuszeile"), "Bitte warten !");
+    }
+    EXPECT_EQ(titel(), "Grundtitel");
+    EXPECT_EQ(lies("Statuszeile"), "Ergebnis");
+}
+
+TEST_F(ElementBildschirm, OhneErgebnisFolgtDerFussDemGrundtitel)
+{
+    Bildschirm& bildschirm = zeige();
+    bildschirm.setzeGrundtitel("Neuer Grundtitel");
+    ueberfahre("frmWerkbank");
+    EXPECT_EQ(lies("Statuszeile"), "Neuer Grundtitel");
+}
+
 TEST_F(ElementBildschirm, EinGeaenderterHinweisGiltSofort)
 {
     Bildschirm& bildschirm = zeige();

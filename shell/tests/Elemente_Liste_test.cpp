@@ -336,6 +336,7 @@ TEST_F(ElementListe, MaltJedeZeileAnIhremPlatzUndDieGewaehlteInDerAuswahlfarbe)
 {
     Liste& liste = zeigeZeilen(3);
     klickeZeile(1);
+    liste.clearFocus(); // whose frame tints the row
     const QImage bild = gemalt();
     const QColor grund = liste.palette().color(QPalette::Base);
     const QColor auswahl = liste.palette().color(QPalette::Highlight);

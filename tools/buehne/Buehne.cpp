@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QThread>
 
 #include <utility>
@@ -95,6 +96,8 @@ bool BeobachtetePumpe::verarbeite()
 Buehne::Buehne(const QString& verzeichnis)
 {
     archiv.ProgrammVerzeichnis = (QDir(verzeichnis).absolutePath() + QDir::separator()).toStdString();
+    if (QGuiApplication::platformName() == "offscreen") // whose screen is smaller than any desktop
+        umgebung.schreibtisch = QRect(0, 0, 1280, 800);
 }
 
 Buehne::~Buehne()
