@@ -202,7 +202,7 @@ int pruefeDatensatz(std::string_view satz)
     return pruefeZahlen(satz);
 }
 
-Strukturbericht pruefeStruktur(Dateiinhalt inhalt, const std::function<bool(const Strukturbericht&)>& zwischenstand)
+Strukturbericht pruefeStruktur(Dateiinhalt&& inhalt, const std::function<bool(const Strukturbericht&)>& zwischenstand)
 {
     Strukturbericht bericht;
     const std::size_t laenge = ende(inhalt);

@@ -49,7 +49,7 @@ struct Strukturbericht {
 
 /// Checks every line of a file. A line ends with CR LF, CR or LF; a Ctrl-Z ends the file. Of a file that was not read
 /// to its end the last line, which may go on, is not judged.
-Strukturbericht pruefeStruktur(Dateiinhalt inhalt, const std::function<bool(const Strukturbericht&)>& zwischenstand);
+Strukturbericht pruefeStruktur(Dateiinhalt&& inhalt, const std::function<bool(const Strukturbericht&)>& zwischenstand);
 
 /// Number 1..40 of the fault in an error line; 0 for any other line.
 int fehlernummer(std::string_view fehlerzeile);

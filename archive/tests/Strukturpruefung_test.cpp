@@ -152,8 +152,8 @@ TEST(Struktur, JedeFehlerzeileStehtAnIhremPlatz)
         }
         const std::string satz = i % 3 == 0 ? "" : std::to_string(i);
         bytes += satz + "\n";
-        erwartet.push_back((satz.empty() ? "Error 01" : "Error 02") + (" nach Ziehung: " + kennung) + " >> " + satz +
-                           " <<");
+        std::string zeile = satz.empty() ? "Error 01" : "Error 02";
+        erwartet.push_back(zeile.append(" nach Ziehung: ").append(kennung).append(" >> ").append(satz).append(" <<"));
     }
     const Strukturbericht bericht = pruefe(bytes);
     EXPECT_EQ(bericht.KorrekteZiehungen, 10'000);

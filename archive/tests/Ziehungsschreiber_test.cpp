@@ -19,6 +19,7 @@ using enum Schreibausgang;
 
 const std::string kSatz1 = "1955,41,03,12,13,16,23,41,00,0";
 const std::string kSatz2 = "1955,42,03,12,18,30,32,49,00,0";
+const std::string kBeide = kSatz1 + "\r\n" + kSatz2 + "\r\n";
 
 class Ziehungsschreiber : public testing::Test {
 protected:
@@ -56,7 +57,7 @@ TEST_F(Ziehungsschreiber, HaengtEinenSatzAnUndNenntSeineNummer)
     const Schreibergebnis ergebnis = haengeZiehungAn(datei, kSatz2);
     EXPECT_EQ(ergebnis.ausgang, Gut);
     EXPECT_EQ(ergebnis.nr, 2);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
     EXPECT_EQ(ordner.eintraege(), 1U);
 }
 
@@ -65,11 +66,11 @@ TEST_F(Ziehungsschreiber, BehaeltDasZeilenendeDesLetztenSatzesUndErgaenztEinFehl
     for (const std::string ende : {"\r\n", "\n", "\r"}) {
         schreibe(kSatz1 + ende);
         EXPECT_EQ(haengeAn(kSatz2), Gut);
-        EXPECT_EQ(inhalt(), kSatz1 + ende + kSatz2 + "\r\n");
+        EXPECT_EQ(inhalt(), std::string(kSatz1).append(ende).append(kSatz2).append("\r\n"));
     }
     schreibe(kSatz1);
     EXPECT_EQ(haengeAn(kSatz2), Gut);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
 }
 
 TEST_F(Ziehungsschreiber, SchneidetAbWasDasLadenHinterDemLetztenSatzDuldet)
@@ -93,7 +94,7 @@ TEST_F(Ziehungsschreiber, WasHinterStrgZStehtBleibtAlsAlteFassung)
     const std::string alt = kSatz1 + "\r\n\x1A" + kSatz2 + "\r\n";
     schreibe(alt);
     EXPECT_EQ(haengeAn(kSatz2), Gut);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
     EXPECT_EQ(alteFassung(), alt);
 }
 
@@ -110,7 +111,8 @@ TEST_F(Ziehungsschreiber, LeereUndFehlendeDatei)
 
 TEST_F(Ziehungsschreiber, EineKaputteDateiBleibtWieSieIst)
 {
-    for (const std::string& alt : {kSatz1 + "\r\nkaputt\r\n", kSatz1 + "\r\n1955,42", kSatz1 + "\r\n\r\n" + kSatz2}) {
+    for (const std::string& alt :
+         {kSatz1 + "\r\nkaputt\r\n", kSatz1 + "\r\n1955,42", std::string(kSatz1).append("\r\n\r\n").append(kSatz2)}) {
         schreibe(alt);
         const Schreibergebnis ergebnis = haengeZiehungAn(datei, kSatz2);
         EXPECT_EQ(ergebnis.ausgang, Unlesbar);
@@ -146,7 +148,7 @@ TEST_F(Ziehungsschreiber, HebtDenSchreibschutzAuf)
     schreibe(kSatz1 + "\r\n");
     fs::permissions(datei, fs::perms::owner_read);
     EXPECT_EQ(haengeAn(kSatz2), Gut);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
 }
 
 TEST_F(Ziehungsschreiber, EinVerzeichnisAnIhrerStelleBleibt)
@@ -164,7 +166,7 @@ TEST_F(Ziehungsschreiber, OhneOrdnerIstEsEinSchreibfehler)
 
 TEST_F(Ziehungsschreiber, VollePlatteLaesstJedesByteStehen)
 {
-    for (const std::string& alt : {kSatz1 + "\r\n" + kSatz2, kSatz1 + "\r\n\r\n  \x1A"})
+    for (const std::string& alt : {kBeide, kSatz1, kSatz1 + "\r\n\r\n  \x1A"})
         for (const rlim_t mehr : {0U, 1U, 2U, 15U, 25U}) {
             schreibe(alt);
             EXPECT_EQ(mitVollerPlatte(alt.size() + mehr, [this] { return haengeAn(kSatz1); }), Schreibfehler) << mehr;
@@ -179,7 +181,7 @@ TEST_F(Ziehungsschreiber, NeuGeschriebenIstDieDateiGenormtUndDieAlteBleibt)
     const Schreibergebnis ergebnis = erzeugeZiehungsdatei(geladen());
     EXPECT_EQ(ergebnis.ausgang, Gut);
     EXPECT_EQ(ergebnis.nr, 2);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
     EXPECT_EQ(alteFassung(), vonHand);
 }
 
@@ -189,7 +191,7 @@ TEST_F(Ziehungsschreiber, NeuGeschriebenWirdWasInDerDateiStehtUndNichtWasGeladen
     const ZiehungsArchiv alter = geladen();
     schreibe(kSatz1 + "\n" + kSatz2 + "\n");
     EXPECT_EQ(erzeugeZiehungsdatei(alter).ausgang, Gut);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
     schreibe("");
     EXPECT_EQ(erzeugeZiehungsdatei(alter).ausgang, Gut);
     EXPECT_EQ(inhalt(), "");
@@ -198,11 +200,11 @@ TEST_F(Ziehungsschreiber, NeuGeschriebenWirdWasInDerDateiStehtUndNichtWasGeladen
 
 TEST_F(Ziehungsschreiber, EineFehlendeEntstehtAusDemWasGeladenIst)
 {
-    schreibe(kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    schreibe(kBeide);
     const ZiehungsArchiv archiv = geladen();
     fs::remove(datei);
     EXPECT_EQ(erzeugeZiehungsdatei(archiv).ausgang, Gut);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
     fs::remove(datei);
     EXPECT_EQ(erzeuge(), Unlesbar) << "nothing is loaded";
     EXPECT_EQ(ordner.eintraege(), 0U);
@@ -220,7 +222,7 @@ TEST_F(Ziehungsschreiber, NeuGeschriebenHeisstSieWieImmer)
 
 TEST_F(Ziehungsschreiber, VollePlatteBeimNeuSchreibenLaesstDieAlteStehen)
 {
-    const std::string alt = kSatz1 + "\r\n" + kSatz2 + "\r\n";
+    const std::string alt = kBeide;
     schreibe(alt);
     EXPECT_EQ(mitVollerPlatte(10, [this] { return erzeuge(); }), Schreibfehler);
     EXPECT_EQ(inhalt(), alt);
@@ -238,7 +240,7 @@ TEST_F(Ziehungsschreiber, WerDenZweitenSchreiberAbwartetKommtDanachZumZug)
         return true;
     });
     EXPECT_EQ(ergebnis.ausgang, Gut);
-    EXPECT_EQ(inhalt(), kSatz1 + "\r\n" + kSatz2 + "\r\n");
+    EXPECT_EQ(inhalt(), kBeide);
 }
 
 TEST_F(Ziehungsschreiber, SolangeEinAndererSchreibtAendertSichNichts)
@@ -276,7 +278,7 @@ TEST_F(Ziehungsschreiber, ZweiProgrammeVerlierenKeineZiehung)
     ASSERT_EQ(archiv.AnzahlZiehungen, 2 * kSaetze);
     for (const int jahr : {1960, 2000}) {
         int naechste = 0;
-        for (std::size_t nr = 1; nr <= 2 * kSaetze; ++nr)
+        for (std::size_t nr = 1; nr < archiv.jjjj.size(); ++nr)
             if (archiv.jjjj[nr] / 40 == jahr / 40) {
                 EXPECT_EQ(archiv.jjjj[nr], jahr + naechste / 50);
                 EXPECT_EQ(archiv.sw[nr], naechste % 50 + 1);
