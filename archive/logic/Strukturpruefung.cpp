@@ -145,7 +145,7 @@ public:
     int fehler() const { return fehler_; }
     std::size_t ab() const { return ab_; }
     /// Offset of the last correct record before this one.
-    std::size_t korrekter() const { return korrekter_; }
+    std::size_t VorherigeKorrekte() const { return korrekter_; }
 
 private:
     static constexpr std::size_t kKeiner = std::string::npos;
@@ -169,7 +169,7 @@ std::string jahrUndWocheVon(std::string_view satz)
 void merkeFehler(Strukturbericht& bericht, const Satzgang& gang)
 {
     if (bericht.lesezeichen.empty() || gang.ab() - bericht.lesezeichen.back().ab >= kLesezeichenabstand)
-        bericht.lesezeichen.push_back({bericht.FalscheZiehungen, gang.ab(), gang.korrekter()});
+        bericht.lesezeichen.push_back({bericht.FalscheZiehungen, gang.ab(), gang.VorherigeKorrekte()});
     ++bericht.FalscheZiehungen;
 }
 
@@ -230,13 +230,13 @@ std::string Strukturbericht::fehlerzeile(std::size_t nr) const
     if (nr >= FalscheZiehungen)
         return {};
     const Lesezeichen& zeichen = *std::prev(std::ranges::upper_bound(lesezeichen, nr, {}, &Lesezeichen::nr));
-    Satzgang gang(bytes, zeichen.ab, zeichen.korrekter);
+    Satzgang gang(bytes, zeichen.ab, zeichen.VorherigeKorrekte);
     for (std::size_t noch = nr - zeichen.nr + 1; noch > 0 && gang.weiter();)
         noch -= std::size_t{gang.fehler() != 0};
-    const std::string vorherige = gang.korrekter() == std::string::npos
-                                      ? "1955/4X"
-                                      : kennung(std::string_view(bytes).substr(gang.korrekter(), kSatzlaenge));
-    return "Error " + Format(gang.fehler(), "00") + " nach Ziehung: " + vorherige + " >> " +
+    const std::string label = gang.VorherigeKorrekte() == std::string::npos
+                                  ? "1955/4X"
+                                  : kennung(std::string_view(bytes).substr(gang.VorherigeKorrekte(), kSatzlaenge));
+    return "Error " + Format(gang.fehler(), "00") + " nach Ziehung: " + label + " >> " +
            std::string(gang.satz().substr(0, kHoechstensGezeigt)) + " <<";
 }
 

@@ -24,9 +24,9 @@ extern const std::array<std::string_view, 41> kStrukturfehler;
 struct Strukturbericht {
     /// A faulty record, and what is needed to go on from there.
     struct Lesezeichen {
-        std::size_t nr;        ///< index of the record among the faulty ones
-        std::size_t ab;        ///< its offset
-        std::size_t korrekter; ///< offset of the last correct record before it; npos if there is none
+        std::size_t nr;                ///< index of the record among the faulty ones
+        std::size_t ab;                ///< its offset
+        std::size_t VorherigeKorrekte; ///< offset of the last correct record before it; npos if there is none
     };
 
     /// "Error 39 nach Ziehung: 1998 >> ... <<" for the faulty record `nr`, 0..FalscheZiehungen - 1; of a long record

@@ -1,4 +1,5 @@
 #include "shell/logic/Dateien.h"
+#include "testhilfen/Kindprozess.h"
 #include "testhilfen/Pruefordner.h"
 
 #include <cerrno>
@@ -109,23 +110,12 @@ TEST(SchreibeDatei, LeererPfadIstEinFehler)
     EXPECT_FALSE(schreibeDatei("", "x"));
 }
 
-/// Runs `tue` in a process of its own, so that what it does to itself stays there. Gives the number that it returns.
-template <class Tue> int imKind(Tue tue)
-{
-    const pid_t kind = ::fork();
-    if (kind == 0)
-        ::_exit(tue());
-    int zustand = 0;
-    ::waitpid(kind, &zustand, 0);
-    return WIFEXITED(zustand) ? WEXITSTATUS(zustand) : -1;
-}
-
 TEST(SchreibeDatei, OrdnerOhneSchreibrechtLaesstDieAlteStehen)
 {
     const Pruefordner ordner;
     const fs::path datei = ordner.lege("da.txt", "alt");
     fs::permissions(ordner.pfad(), fs::perms(0555));
-    const int fehler = imKind([&] {
+    const int fehler = imKindprozess([&] {
         constexpr uid_t kNiemand = 65534;
         if (::geteuid() == 0 && ::setuid(kNiemand) != 0) // root may write everywhere
             return 0;
@@ -169,7 +159,7 @@ TEST(SchreibeDatei, FremdeVorlaeufigeDateiWirdNichtAngeruehrt)
 /// Writes where files may not grow beyond `grenze` bytes: as on a full disk, the write fails halfway.
 int schreibeMitGrenze(const fs::path& ziel, std::size_t bytes, rlim_t grenze)
 {
-    return imKind([&] {
+    return imKindprozess([&] {
         std::signal(SIGXFSZ, SIG_IGN);
         const rlimit schranke{grenze, grenze};
         ::setrlimit(RLIMIT_FSIZE, &schranke);
