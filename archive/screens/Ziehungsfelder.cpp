@@ -2,6 +2,7 @@
 
 #include "archive/logic/Neueingabe.h"
 #include "shell/elements/Bloecke.h"
+#include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Format.h"
 
@@ -11,17 +12,12 @@
 Ziehungsfelder::Ziehungsfelder(QWidget* eltern) : QWidget(eltern)
 {
     static const QStringList kKoepfe{"Jahr", "SW", "Z1", "Z2", "Z3", "Z4", "Z5", "Z6", "ZZ", "SZ"};
-    QPalette nurZumLesen = palette();
-    nurZumLesen.setColor(QPalette::Base, nurZumLesen.color(QPalette::Window));
     Bloecke felder;
     for (std::size_t i = 0; i < texte_.size(); ++i) {
         const QString name = QString("Text%1").arg(i + 1);
         auto* text = new QLineEdit(this);
         text->setObjectName(name);
-        text->setReadOnly(true);
-        text->setFrame(false);
-        text->setFocusPolicy(Qt::ClickFocus);
-        text->setPalette(nurZumLesen);
+        alsAnzeige(text);
         text->setAlignment(Qt::AlignCenter);
         text->setFixedWidth(text->fontMetrics().horizontalAdvance("000000"));
         auto* kopf = new QLabel(kKoepfe[static_cast<qsizetype>(i)], this);

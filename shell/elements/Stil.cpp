@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QLineEdit>
 #include <QLocale>
 #include <QTranslator>
 #include <QWidget>
@@ -39,4 +40,14 @@ void alsUeberschrift(QWidget* feld)
     schrift.setPointSizeF(schrift.pointSizeF() * 1.15);
     schrift.setBold(true);
     feld->setFont(schrift);
+}
+
+void alsAnzeige(QLineEdit* feld)
+{
+    QPalette farben = feld->palette();
+    farben.setColor(QPalette::Base, farben.color(QPalette::Window));
+    feld->setPalette(farben);
+    feld->setReadOnly(true);
+    feld->setFrame(false);
+    feld->setFocusPolicy(Qt::ClickFocus);
 }

@@ -3,6 +3,7 @@
 #include <QFont>
 
 class QApplication;
+class QLineEdit;
 class QWidget;
 
 /// One look for all screens: Fusion, one palette, one scale of distances, German texts of Qt's own.
@@ -20,3 +21,6 @@ QFont festeSchrift();
 
 /// Larger and bold: the game, the result line.
 void alsUeberschrift(QWidget* feld);
+/// A field that shows something and takes nothing: flat, on the ground of the screen, without a tab stop. Its text can
+/// still be chosen with the mouse and copied.
+void alsAnzeige(QLineEdit* feld);

@@ -23,17 +23,17 @@ std::int32_t ziehungsNr(std::string_view text)
     return nurZiffern(trim(text)) ? fuehrendeZahl(text) : 0;
 }
 
+} // namespace
+
 std::optional<std::int32_t> jahreszahl(std::string_view text)
 {
     return text.size() == kJahresstellen && nurZiffern(text) ? ganzzahl(text) : std::nullopt;
 }
 
-Bereichspruefung meldung(std::string_view titel, std::string_view text)
+Meldung falscheJahreszahl()
 {
-    return {std::nullopt, Meldung{std::string(titel), std::string(text)}};
+    return {std::string(kLottoNachricht), "Jahreszahlen 4-stellig eingeben !"};
 }
-
-} // namespace
 
 Auswertebereich::Auswertebereich(std::int32_t erstesJahr, std::int32_t letztesJahr, std::int32_t anzahlZiehungen)
 {
@@ -96,9 +96,9 @@ Bereichspruefung Auswertebereich::pruefe()
     const auto von = jahreszahl(angabe_.von);
     const auto bis = jahreszahl(angabe_.bis);
     if (!von || !bis)
-        return meldung(kLottoNachricht, "Jahreszahlen 4-stellig eingeben !");
+        return {std::nullopt, falscheJahreszahl()};
     if (*bis < *von)
-        return meldung("", "\"Bis\" muss grösser \"Von\" sein!");
+        return {std::nullopt, Meldung{"", "\"Bis\" muss grösser \"Von\" sein!"}};
     return {Ziehungsbereich{*von, *bis, letzteZiehung()}, std::nullopt};
 }
 

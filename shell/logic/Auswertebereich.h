@@ -94,6 +94,11 @@ private:
     std::int32_t anzahl_ = 0;
 };
 
+/// The year in a text of exactly four digits; nothing for any other text.
+std::optional<std::int32_t> jahreszahl(std::string_view text);
+/// What is said of a year that is none.
+Meldung falscheJahreszahl();
+
 /// Hint over Von: "Jahreszahl nicht kleiner 1955 wählen.", with the first year of the game.
 std::string hinweisVon(std::string_view erstesSpieljahr);
 
