@@ -96,11 +96,11 @@ std::string Positionsliste::anzahlText() const
 }
 
 Positionsliste positionsliste(const ZiehungsArchiv& archiv, const std::optional<Positionsbereich>& bereich,
-                              Fortschritt fortschritt)
+                              const Fortschritt& fortschritt)
 {
     Positionsliste liste;
     liste.ausBereich = bereich.has_value();
-    Takt takt(std::move(fortschritt));
+    Takt takt(fortschritt);
     const auto anzahl = static_cast<std::size_t>(archiv.AnzahlZiehungen);
     for (std::size_t nr = 1; nr <= anzahl && takt.schritt(nr); ++nr) {
         std::string zeile = positionszeile(archiv, nr);

@@ -53,4 +53,4 @@ struct Positionsliste {
 
 /// All draws, or those with a Positionszahl in the range. Stops with what it has when `fortschritt` gives false.
 Positionsliste positionsliste(const ZiehungsArchiv& archiv, const std::optional<Positionsbereich>& bereich,
-                              Fortschritt fortschritt = {});
+                              const Fortschritt& fortschritt = {});

@@ -177,6 +177,7 @@ void frmAlleKombis::ZeigeSeite()
 {
     seite_ = kombinationsseite(umgebung().archiv, rolle_.Value(), superzahl());
     std::vector<std::string> zeilen;
+    zeilen.reserve(seite_.size());
     for (const Kombinationszeile& zeile : seite_)
         zeilen.push_back(kombinationszeile(zeile));
     List1->modell().fuelle(std::move(zeilen));

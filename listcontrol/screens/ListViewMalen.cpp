@@ -135,6 +135,7 @@ Zellfarben ListView::farben(int zeile, int spalte) const
 std::vector<Zellfarben> ListView::zellfarben(int zeile) const
 {
     std::vector<Zellfarben> alle;
+    alle.reserve(static_cast<std::size_t>(ColumnCount()));
     for (int spalte = 0; spalte < ColumnCount(); ++spalte)
         alle.push_back(farben(zeile, spalte));
     return alle;

@@ -25,6 +25,16 @@ int weg(int von, int bis, int sichtVon, int sichtBis)
     return von < sichtVon ? von - sichtVon : std::clamp(bis - sichtBis, 0, von - sichtVon);
 }
 
+/// Moves all widgets of a layout item.
+void verschiebe(QLayoutItem* teil, QPoint um)
+{
+    if (QWidget* feld = teil->widget())
+        feld->move(feld->pos() + um);
+    if (const QLayout* innen = teil->layout())
+        for (int i = 0; i < innen->count(); ++i)
+            verschiebe(innen->itemAt(i), um);
+}
+
 bool blaettert(const QEvent* ereignis)
 {
     if (ereignis->type() != QEvent::KeyPress)
@@ -152,7 +162,11 @@ void Rollinhalt::setGeometry(const QRect& rechteck)
     stelle(hoch_, inhalt.height(), sicht_.height());
     quer_->setGeometry(sicht_.left(), sicht_.bottom() + 1, sicht_.width(), dicke);
     hoch_->setGeometry(sicht_.right() + 1, ganz.top(), dicke, ganz.height());
-    itemAt(0)->setGeometry({sicht_.topLeft() - QPoint(quer_->value(), hoch_->value()), inhalt});
+    // Qt's layouts know no place to the left of 0 or above it: the content is laid out in its place, then moved.
+    verschiebe(itemAt(0), gerollt_);
+    itemAt(0)->setGeometry({sicht_.topLeft(), inhalt});
+    gerollt_ = {quer_->value(), hoch_->value()};
+    verschiebe(itemAt(0), -gerollt_);
 }
 
 void Rollinhalt::rolleZu(const QWidget* feld)

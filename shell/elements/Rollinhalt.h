@@ -40,6 +40,7 @@ private:
 
     std::vector<QLayoutItem*> teile_; ///< the content, the foot
     std::function<QSize()> hoechstens_;
-    QRect sicht_; ///< where the content is to be seen
+    QRect sicht_;    ///< where the content is to be seen
+    QPoint gerollt_; ///< by so much the content stands to the left of its place and above it
     QScrollBar *quer_, *hoch_;
 };

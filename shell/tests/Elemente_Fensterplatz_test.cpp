@@ -76,6 +76,24 @@ TEST_F(ElementFensterplatz, EinZuKleinerSchreibtischRolltUndZeigtLinksObenUndDen
     EXPECT_EQ(ort(schirm, "Statuszeile").bottom(), schirm.rect().bottom());
 }
 
+TEST_F(ElementFensterplatz, WasLinksOderObenHinausrolltBehaeltSeineGroesse)
+{
+    Bildschirm& schirm = zeigeAuf(kKlein);
+    const QRect vorher = ort(schirm, "Text1");
+    const QRect mitteVorher = ort(schirm, "Bezeichnung1");
+    balken(schirm, Qt::Horizontal)->setValue(60);
+    balken(schirm, Qt::Vertical)->setValue(40);
+    EXPECT_EQ(ort(schirm, "Text1"), vorher.translated(-60, -40));
+    EXPECT_EQ(ort(schirm, "Bezeichnung1"), mitteVorher.translated(-60, -40));
+    schirm.layout()->invalidate();
+    schirm.layout()->activate();
+    EXPECT_EQ(ort(schirm, "Text1"), vorher.translated(-60, -40));
+    balken(schirm, Qt::Horizontal)->setValue(0);
+    balken(schirm, Qt::Vertical)->setValue(0);
+    EXPECT_EQ(ort(schirm, "Text1"), vorher);
+    EXPECT_EQ(ort(schirm, "Bezeichnung1"), mitteVorher);
+}
+
 TEST_F(ElementFensterplatz, EinFeldDasDenFokusErhaeltRolltInsBild)
 {
     Bildschirm& schirm = zeigeAuf(kKlein);
