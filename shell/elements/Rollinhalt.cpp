@@ -62,7 +62,11 @@ Rollinhalt::Rollinhalt(QWidget* eltern, QLayout* inhalt, QWidget* fuss, std::fun
         balken->setSingleStep(kSchritt);
         connect(balken, &QScrollBar::valueChanged, this, [this] { setGeometry(geometry()); });
     }
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* feld) { rolleZu(feld); });
+    // A window that opens shows its top left, wherever its focus is.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* vorher, const QWidget* feld) {
+        if (vorher && vorher->window() == parentWidget()->window())
+            rolleZu(feld);
+    });
     eltern->installEventFilter(this);
 }
 

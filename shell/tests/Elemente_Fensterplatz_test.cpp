@@ -76,6 +76,21 @@ TEST_F(ElementFensterplatz, EinZuKleinerSchreibtischRolltUndZeigtLinksObenUndDen
     EXPECT_EQ(ort(schirm, "Statuszeile").bottom(), schirm.rect().bottom());
 }
 
+TEST_F(ElementFensterplatz, EinFensterGehtLinksObenAufWoAuchSeinFokusIst)
+{
+    buehne.umgebung.schreibtisch = kKlein;
+    const Bildschirm& schirm = zeige([](Rohbau& rohbau) {
+        QPushButton* start = rohbau.befehl("Befehl1", "Start");
+        rohbau.bezeichnung("Bezeichnung1")->setMinimumSize(1100, 800);
+        rohbau.hauptaktionen({start});
+        return spalte({rohbau.findChild<QLabel*>("Bezeichnung1"), zeile({luecke(), start})});
+    });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(schirm.focusWidget()->objectName(), "Befehl1");
+    EXPECT_EQ(balken(schirm, Qt::Horizontal)->value(), 0);
+    EXPECT_EQ(balken(schirm, Qt::Vertical)->value(), 0);
+}
+
 TEST_F(ElementFensterplatz, WasLinksOderObenHinausrolltBehaeltSeineGroesse)
 {
     Bildschirm& schirm = zeigeAuf(kKlein);
