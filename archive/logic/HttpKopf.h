@@ -19,7 +19,7 @@ struct HttpKopf {
     /// The value of the first field of that name, in whatever case; nothing if there is none.
     std::optional<std::string_view> feld(std::string_view name) const;
     /// The length of the body as the head gives it: its text, unchecked. Nothing if there is none, if several
-    /// contradict each other, or if the body comes in an encoding of its own, so that its end is told there.
+    /// contradict each other, or if the body comes in an encoding of its own, so that its end is marked there.
     std::optional<std::string_view> ContentLength() const;
 };
 

@@ -29,7 +29,7 @@ struct UrlTeile {
 /// scheme, holds a control character or is longer than `kMaxUrl`.
 std::optional<std::string> InternetCanonicalizeUrlA(std::string_view url);
 
-/// Takes a canonical URL apart. Nothing if it has no scheme, if a part is longer than told above, if a port is outside
+/// Takes a canonical URL apart. Nothing if it has no scheme, if a part is longer than said above, if a port is outside
 /// 1..65535, or if one of the schemes with a host lacks it.
 std::optional<UrlTeile> InternetCrackUrlA(std::string_view url);
 

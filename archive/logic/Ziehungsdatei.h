@@ -15,7 +15,7 @@ std::string programmVerzeichnis(std::string path);
 
 /// Fills the archive from the file in `ProgrammVerzeichnis` that `Spielart` names, and rebuilds `Datum`.
 ///
-/// A missing file is told again and again until it is there or `melde` gives up; an empty `melde` gives up at once.
+/// A missing file is reported again and again until it is there or `melde` gives up; an empty `melde` gives up at once.
 /// Any other failure is silent: `AnzahlZiehungen` is 0, `Datum` stays, and behind a broken record the columns hold
 /// what was read before it. A Spielart outside 0..3 and a file with more than `kMaxZiehungenJeDatei` records are such
 /// failures. An empty file is an empty archive.
@@ -29,7 +29,7 @@ std::int32_t zaehleZiehungen(const std::filesystem::path& datei);
 /// `SALOTTO.DAT`, 2 `MALOTTO.DAT`, 4 `MBLOTTO.DAT`. In `s`, 11 marks the draws before the Superzahl.
 ///
 /// Returns three fields joined by ":", one for each file: "-" without draws, else such as "3693  [2026/29]". A missing
-/// file is told once and "False" is returned; the columns then hold what was read so far. A file that cannot be read
-/// counts as one without draws, a broken one ends before the broken record. With no file chosen, the columns stay as
-/// they are and `AnzahlZiehungen` is their upper bound. `DatumAlle` is never shorter than the columns.
+/// file is reported once and "False" is returned; the columns then hold what was read so far. A file that cannot be
+/// read counts as one without draws, a broken one ends before the broken record. With no file chosen, the columns stay
+/// as they are and `AnzahlZiehungen` is their upper bound. `DatumAlle` is never shorter than the columns.
 std::string LadeAlleZiehungen(ZiehungsArchiv& archiv, int maske, const MeldeFehlendeDatei& melde);

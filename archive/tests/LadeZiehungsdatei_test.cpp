@@ -12,7 +12,8 @@ const std::string kFehltSamstag =
     "ERROR 53: Die Ziehungsdatei SALOTTO.DAT wurde nicht gefunden. Die Datei SALOTTO.DAT muß sich im gleichen "
     "Verzeichnis wie das Programm TOMBRIX.EXE befinden.";
 
-/// A folder for the Ziehungsdateien, an archive on it, and the texts of the boxes. A box gives up unless told else.
+/// A folder for the Ziehungsdateien, an archive on it, and the texts of the boxes. A box gives up unless a test says
+/// otherwise.
 class LadeZiehungsdateiTest : public testing::Test {
 protected:
     void lade(std::int16_t spielart = Samstagslotto)

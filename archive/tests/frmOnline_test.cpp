@@ -345,7 +345,7 @@ TEST_F(Online, SchliessenMittenInDerUebertragungKehrtSauberZurueck)
     klicke("cmdStart(1)");
     blick.stop();
     EXPECT_LT(uhr.elapsed(), kGeduldDesClients);
-    EXPECT_EQ(boxen().size(), 1); // the count test has told its result
+    EXPECT_EQ(boxen().size(), 1); // the count test has shown its result
     EXPECT_TRUE(inhalt("SALOTTO.DAT") == altSa);
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

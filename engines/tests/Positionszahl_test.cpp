@@ -21,7 +21,7 @@ template <class Tue> void alleKombinationen(Tue tue)
                             tue(++nummer, Kombination{a, b, c, d, e, f});
 }
 
-/// The steps of the sum, written out with the products that they are told with.
+/// The steps of the sum, written out with their products.
 std::int64_t summeAusgeschrieben(const Kombination& z)
 {
     const auto [z1, z2, z3, z4, z5, z6] = z;

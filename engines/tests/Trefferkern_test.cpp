@@ -170,7 +170,7 @@ std::vector<Zahlenmenge> paarreihen(const std::vector<std::array<int, 2>>& paare
     return reihen;
 }
 
-/// Rows that share exactly two numbers with a combination, by both ways to go; the width must be told right.
+/// Rows that share exactly two numbers with a combination, by both ways to go; the width must be found right.
 void pruefeZweier(const std::vector<Zahlenmenge>& reihen, std::uint32_t nummer, std::size_t erwartet, bool schmal)
 {
     for (const Befehlssatz befehlssatz : befehlssaetze()) {

@@ -8,7 +8,7 @@
 #include <vector>
 
 /// Sorts the rows from the 0-based index `erster` to `letzter`, both included, by the order of their bytes. Indices
-/// past the end are brought back to it. Equal rows cannot be told apart, so the library's sort gives what
+/// past the end are brought back to it. Equal rows look the same, so the library's sort gives what
 /// a quicksort gives, without its worst cases.
 void ListBoxSort(std::vector<std::string>& feld, std::size_t erster, std::size_t letzter, bool absteigend = false);
 

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 using Texte = std::vector<std::string>;
 
-/// The quicksort as it is told: pivot at the rounded middle, scans held by the ends of the range.
+/// The plain quicksort: pivot at the rounded middle, scans held by the ends of the range.
 void sortiereNachVorschrift(Texte& feld, std::ptrdiff_t erster, std::ptrdiff_t letzter)
 {
     const auto bei = [&](std::ptrdiff_t k) -> std::string& { return feld[static_cast<std::size_t>(k)]; };

@@ -10,10 +10,10 @@
 bool macheSeitenordner(const std::filesystem::path& ordner);
 
 /// Writes a page into a folder, which is made if it is missing. An older page stays until the new one is whole, and
-/// its write protection does not hold it. Gives what is to be told if that fails; the older page is then untouched.
+/// its write protection does not hold it. Gives what to say if that fails; the older page is then untouched.
 std::optional<Meldung> legeSeiteAb(const std::filesystem::path& ordner, std::string_view name, std::string_view bytes);
 
-/// What is told when the folder cannot be made.
+/// What to say when the folder cannot be made.
 Meldung ordnerfehler();
-/// What is told when a page cannot be written.
+/// What to say when a page cannot be written.
 Meldung schreibfehler();

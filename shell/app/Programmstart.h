@@ -6,5 +6,5 @@ struct Umgebung;
 /// Names every screen of the program. A tool that is not among them is grey on the selection menu.
 void registriereBildschirme(BildschirmVerzeichnis& verzeichnis);
 
-/// Loads the archive and shows the selection menu; a missing file is told in a box until it is there.
+/// Loads the archive and shows the selection menu; a box names a missing file until it is there.
 void starteProgramm(Umgebung& umgebung);

@@ -49,7 +49,7 @@ void setzeHinweis(QWidget* feld, const QString& text);
 QString hinweisVon(const QWidget* feld);
 
 /// Base of all screens. It owns the title that doubles as status line, the running flag of long evaluations, and the
-/// way back to the selection menu. Controls carry their told name as object name.
+/// way back to the selection menu. Controls carry their name as object name.
 class Bildschirm : public QWidget {
 public:
     ~Bildschirm() override;

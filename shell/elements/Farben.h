@@ -19,7 +19,7 @@ inline const QColor Rollbahn{222, 227, 222}; ///< of a scroll bar
 inline const QColor Griff{134, 150, 138};    ///< its handle
 inline const QColor GriffUnterMaus{104, 124, 110};
 
-/// The one light palette of the program, so that told colours are readable on dark desktops too.
+/// The one light palette of the program, so that fixed colours are readable on dark desktops too.
 QPalette palette();
 } // namespace Farben
 

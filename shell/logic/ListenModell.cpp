@@ -167,7 +167,7 @@ void ListenModell::ordneEin() const
     if (!Sorted() || geordnete_ == zeilen_.size())
         return;
     const auto neue = zeilen_.begin() + static_cast<std::ptrdiff_t>(geordnete_);
-    std::sort(neue, zeilen_.end()); // equal rows cannot be told apart
+    std::sort(neue, zeilen_.end()); // equal rows look the same
     rueckeAuswahl();
     std::inplace_merge(zeilen_.begin(), neue, zeilen_.end());
     geordnete_ = zeilen_.size();

@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-/// Another program that holds the lock until it is told to end, or killed.
+/// Another program that holds the lock until it is asked to end, or killed.
 class FremderHalter {
 public:
     explicit FremderHalter(const fs::path& datei)

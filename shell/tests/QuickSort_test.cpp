@@ -14,7 +14,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// The sort as it is told, without any care for the depth of its calls.
+/// The plain sort, without any care for the depth of its calls.
 template <class T> void sortiereNachVorschrift(std::vector<T>& feld, std::ptrdiff_t unten, std::ptrdiff_t oben)
 {
     const auto bei = [&](std::ptrdiff_t k) -> T& { return feld[static_cast<std::size_t>(k)]; };
@@ -38,7 +38,7 @@ template <class T> void sortiereNachVorschrift(std::vector<T>& feld, std::ptrdif
         sortiereNachVorschrift(feld, i, oben);
 }
 
-/// Equal keys that can be told apart show whether the same elements change places.
+/// Equal keys that differ otherwise show whether the same elements change places.
 struct Markiert {
     int schluessel;
     int marke;

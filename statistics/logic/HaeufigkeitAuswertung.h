@@ -24,7 +24,7 @@ HaeufigkeitAuswertung werteAus(const ZiehungsArchiv& archiv, const Ziehungsberei
                                const Bereichsangabe& angabe, ZZModus modus);
 
 /// Adds the other Wednesday game, over the same range and without Zusatzzahl, to an evaluation of the one that was
-/// made without Zusatzzahl. What is told of the last draw is told of game A, which is still drawn.
+/// made without Zusatzzahl. What it says of the last draw holds for game A, which is still drawn.
 void ergaenzeMittwoch(HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv& archiv);
 
 /// The game in upper case; "MITTWOCHSLOTTO (A+B)" for both Wednesday games.

@@ -130,7 +130,7 @@ void frmZuletzt::beimZeigen()
     folgeArchiv();
 }
 
-/// The choice of draws and what is told of the archive; costs nothing while that is the same.
+/// The choice of draws and what is said of the archive; costs nothing while that is the same.
 void frmZuletzt::folgeArchiv()
 {
     Befehl1->setVisible(umgebung().archiv.Spielart > Samstagslotto);

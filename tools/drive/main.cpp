@@ -19,7 +19,7 @@ struct Optionen {
     QString saat;
 };
 
-/// Nothing if the arguments are wrong; the reason has been told.
+/// Nothing if the arguments are wrong; the reason has been printed.
 std::optional<Optionen> liesOptionen(const QCoreApplication& programm)
 {
     QCommandLineParser zerleger;

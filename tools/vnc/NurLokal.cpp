@@ -1,5 +1,5 @@
 // Loaded in front of a program (LD_PRELOAD), keeps the ports it opens to this machine: a server socket for every
-// address is bound to 127.0.0.1 instead. Qt's VNC platform knows no password and cannot be told an address.
+// address is bound to 127.0.0.1 instead. Qt's VNC platform knows no password and takes no address.
 
 #include <arpa/inet.h>
 #include <cstdlib>
