@@ -1,4 +1,5 @@
 #include "bench/Archive.h"
+#include "bench/Ergebniszeilen.h"
 #include "shell/app/Programmstart.h"
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/Liste.h"
@@ -25,7 +26,6 @@
 
 namespace {
 
-constexpr std::size_t kZeilen = 200'000;
 constexpr std::size_t kMillionen = 5'000'000;
 
 using Uhrwerk = std::chrono::steady_clock;
@@ -66,24 +66,6 @@ template <class Tue, class Bezug> void messeNeben(benchmark::State& stand, doubl
     }
     stand.counters["anteil_am_ziel"] = eigene / static_cast<double>(stand.iterations()) / ziel;
     stand.counters["mal_bezug"] = eigene / fremde;
-}
-
-/// Lines such as " 9 mal ->   7 19 23 31 40 48", in the order in which a search comes upon them.
-const std::vector<std::string>& ergebniszeilen()
-{
-    static const std::vector<std::string> zeilen = [] {
-        Zufall zufall(49);
-        std::vector<std::string> neu(kZeilen);
-        for (std::string& zeile : neu) {
-            zeile = Format(lottozahl(zufall.Rnd()), "@@") + " mal -> ";
-            std::array<int, 6> zahlen = sechsZahlen(zufall);
-            std::ranges::sort(zahlen);
-            for (const int zahl : zahlen)
-                zeile += Format(zahl, "@@@");
-        }
-        return neu;
-    }();
-    return zeilen;
 }
 
 QImage male(QAbstractScrollArea& liste)

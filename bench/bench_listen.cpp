@@ -1,3 +1,4 @@
+#include "bench/Ergebniszeilen.h"
 #include "listcontrol/logic/ListBoxSort.h"
 #include "listcontrol/logic/modShellSort.h"
 #include "shell/logic/Format.h"
@@ -20,26 +21,7 @@
 
 namespace {
 
-constexpr std::size_t kZeilen = 200'000;
 constexpr std::size_t kElemente = 100'000;
-
-/// Lines such as " 9 mal ->   7 19 23 31 40 48", in the order in which a search comes upon them.
-const std::vector<std::string>& ergebniszeilen()
-{
-    static const std::vector<std::string> zeilen = [] {
-        Zufall zufall(49);
-        std::vector<std::string> neu(kZeilen);
-        for (std::string& zeile : neu) {
-            zeile = Format(lottozahl(zufall.Rnd()), "@@") + " mal -> ";
-            std::array<int, 6> zahlen = sechsZahlen(zufall);
-            std::ranges::sort(zahlen);
-            for (const int zahl : zahlen)
-                zeile += Format(zahl, "@@@");
-        }
-        return neu;
-    }();
-    return zeilen;
-}
 
 const std::vector<std::int32_t>& zahlen()
 {
