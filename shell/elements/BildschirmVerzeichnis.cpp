@@ -28,6 +28,7 @@ void BildschirmVerzeichnis::registriere(const QString& name, Erzeuger erzeuger)
 std::vector<QString> BildschirmVerzeichnis::namen() const
 {
     std::vector<QString> alle;
+    alle.reserve(eintraege_.size());
     for (const Eintrag& eintrag : eintraege_)
         alle.push_back(eintrag.name);
     return alle;

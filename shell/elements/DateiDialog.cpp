@@ -34,7 +34,7 @@ QString DateiDialog(Umgebung& umgebung, const QString& dateiname, QString& pfad,
     const std::optional<QString> gewaehlt = umgebung.boxen.datei(frage);
     if (!gewaehlt || gewaehlt->isEmpty())
         return {};
-    const QString name = qt(DateiName(utf8(*gewaehlt)));
+    QString name = qt(DateiName(utf8(*gewaehlt)));
     pfad = gewaehlt->left(gewaehlt->size() - name.size());
     return name;
 }

@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionSlider;
+
 /// Fusion with what this program wants otherwise: one frame around whatever has the focus, scroll bars with a handle
 /// that is seen, combo boxes that open a list of rows instead of covering the screen, sharp pictures in boxes, and more
 /// room beside the caption of a button.
