@@ -87,7 +87,8 @@ VollerPort::VollerPort() : horcht_(horche(0)), port_(portVon(horcht_))
     bool voll = false;
     while (!voll && wartende_.size() < kHoechstens) {
         wartende_.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-        ::connect(wartende_.back(), reinterpret_cast<sockaddr*>(&adresse), sizeof adresse);
+        // It does not wait: whether the connection stands is for poll to say.
+        static_cast<void>(::connect(wartende_.back(), reinterpret_cast<sockaddr*>(&adresse), sizeof adresse));
         pollfd verbunden{wartende_.back(), POLLOUT, 0};
         voll = ::poll(&verbunden, 1, 200) == 0;
     }

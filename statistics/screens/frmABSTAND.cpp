@@ -200,6 +200,7 @@ std::size_t frmABSTAND::trefferIn(int zeile) const
 std::string frmABSTAND::bericht() const
 {
     std::vector<std::size_t> reihenfolge;
+    reihenfolge.reserve(static_cast<std::size_t>(ListView1->ItemCount()));
     for (int zeile = 0; zeile < ListView1->ItemCount(); ++zeile)
         reihenfolge.push_back(trefferIn(zeile));
     return abstandBericht(ergebnis_, reihenfolge);
