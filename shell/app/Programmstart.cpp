@@ -9,6 +9,7 @@
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/logic/Vorlaeufige.h"
 #include "statistics/screens/Registrierung.h"
+#include "tips/screens/Registrierung.h"
 
 void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
 {
@@ -17,6 +18,7 @@ void registriereBildschirme(BildschirmVerzeichnis& verzeichnis)
     registriereStatistikbildschirme(verzeichnis);
     registriereFilterbildschirme(verzeichnis);
     registriereSuchbildschirme(verzeichnis);
+    registriereTippbildschirme(verzeichnis);
 }
 
 void starteProgramm(Umgebung& umgebung)

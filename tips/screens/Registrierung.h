@@ -1,0 +1,6 @@
+#pragma once
+
+class BildschirmVerzeichnis;
+
+/// Names the screens of the tips.
+void registriereTippbildschirme(BildschirmVerzeichnis& verzeichnis);
