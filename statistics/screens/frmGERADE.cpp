@@ -4,6 +4,7 @@
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
+#include "shell/elements/Zaehlerfeld.h"
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Auswertebereich.h"
 #include "shell/logic/Format.h"
@@ -19,14 +20,6 @@ constexpr auto kErgebnistitel = "Gerade oder ungerade Gewinnzahlen / Zehnergrupp
 constexpr std::array kZehnergruppen{
     "Einer (1-9) :", "Zehner (10-19) :", "Zwanziger (20-29) :", "Dreißiger (30-39) :", "Vierziger (40-49) :"};
 constexpr std::array kSeptiden{"(1-7)", "(8-14)", "(15-21)", "(22-28)", "(29-35)", "(36-42)", "(43-49)"};
-
-QLineEdit* alsZaehler(QLineEdit* feld)
-{
-    alsAnzeige(feld);
-    feld->setAlignment(Qt::AlignRight);
-    feld->setFixedWidth(feld->fontMetrics().horizontalAdvance("0000000000"));
-    return feld;
-}
 
 template <std::size_t N> void zeige(const std::array<QLineEdit*, N>& felder, const std::array<std::int32_t, N>& werte)
 {

@@ -1,6 +1,13 @@
 #include "tips/screens/Registrierung.h"
 
+#include "shell/elements/BildschirmVerzeichnis.h"
+#include "tips/screens/GLOTTO.h"
+#include "tips/screens/GLottoneu.h"
+#include "tips/screens/frmKugel1.h"
+
 void registriereTippbildschirme(BildschirmVerzeichnis& verzeichnis)
 {
-    static_cast<void>(verzeichnis);
+    verzeichnis.registriere<GLottoneu>("GLottoneu");
+    verzeichnis.registriere<GLOTTO>("GLOTTO");
+    verzeichnis.registriere<frmKugel1>("frmKugel1");
 }
