@@ -4,62 +4,63 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace {
 
 constexpr std::array<double, 5> kAnteile{1.0, 0.75, 0.5, 0.25, 0.0};
+
+struct Grenzen {
+    std::int32_t min = 0;
+    std::int32_t max = 0;
+};
+
+Grenzen grenzen(const std::vector<Balkenwert>& werte)
+{
+    if (werte.empty())
+        return {};
+    const auto [min, max] = std::ranges::minmax(werte, {}, &Balkenwert::anzahl);
+    return {min.anzahl, max.anzahl};
+}
 
 int twips(double wert)
 {
     return static_cast<int>(std::lround(wert));
 }
 
-Balkengraphik zeichne(const Haeufigkeit& haeufigkeit, const Massstab& massstab, std::int32_t hoechster)
+int kopf(std::int32_t anzahl, const Massstab& massstab)
 {
-    Balkengraphik graphik;
-    graphik.massstab = massstab;
-    for (std::size_t i = 0; i < graphik.oben.size(); ++i) {
-        const double hoehe = (haeufigkeit.anzahl[i] - massstab.fuss) * massstab.balkenfaktor();
-        graphik.oben[i] = std::min(twips(Balkengraphik::kGrundlinie - hoehe), Balkengraphik::kTiefsterKopf);
-    }
-    const double spanne = hoechster - massstab.fuss;
-    for (std::size_t i = 0; i < kAnteile.size(); ++i) {
-        graphik.skala[i] = Format(massstab.fuss + kAnteile[i] * spanne, "#0.00");
-        const double hoehe = kAnteile[i] * massstab.spanne * massstab.skalenfaktor();
-        graphik.linien[i] = twips(Balkengraphik::kTiefsterKopf - hoehe);
-    }
-    return graphik;
+    const double hoehe = (anzahl - massstab.fuss) * massstab.balkenfaktor();
+    return std::min(twips(Balkengraphik::kGrundlinie - hoehe), Balkengraphik::kTiefsterKopf);
 }
 
-/// How the mode stands behind the count when the weeks are left out: one blank without Zusatzzahl, else two.
-std::string ohneWochen(ZZModus modus)
+Balkenmarke marke(std::int32_t anzahl, const Grenzen& grenzen)
 {
-    return (modus == ZZModus::Ohne ? ", (" : ",  (") + zzKurztext(modus) + ")";
-}
-
-std::string mitWochen(std::int32_t wochen, ZZModus modus)
-{
-    return ", zuletzt gezogen vor: " + std::to_string(wochen) + " Wochen (" + zzKurztext(modus) + ")";
+    if (anzahl == grenzen.min)
+        return Balkenmarke::Niedrigster;
+    return anzahl == grenzen.max ? Balkenmarke::Hoechster : Balkenmarke::Keine;
 }
 
 } // namespace
 
-Balkengraphik balkenNormal(const Haeufigkeit& haeufigkeit)
+std::vector<Balkenwert> nachHaeufigkeit(std::vector<Balkenwert> werte)
 {
-    const Extremwerte extreme = extremwerte(haeufigkeit);
-    return zeichne(haeufigkeit, {0, std::max<std::int32_t>(extreme.max, 1)}, extreme.max);
+    std::ranges::stable_sort(werte, std::greater{}, &Balkenwert::anzahl);
+    return werte;
 }
 
-Balkengraphik balkenZoom(const Haeufigkeit& haeufigkeit)
+Balkengraphik balkengraphik(const std::vector<Balkenwert>& werte, Balkenansicht ansicht)
 {
-    const Extremwerte extreme = extremwerte(haeufigkeit);
-    return zeichne(haeufigkeit, {extreme.min, std::max(extreme.max - extreme.min, 1)}, extreme.max);
-}
-
-std::string balkenText(const HaeufigkeitAuswertung& auswertung, int zahl)
-{
-    const ZZModus modus = auswertung.ZaehlModus;
-    const std::int32_t wochen = auswertung.zuletztVor[static_cast<std::size_t>(zahl - 1)];
-    return "Zahl " + std::to_string(zahl) + " -> " + std::to_string(auswertung.haeufigkeit.fuer(zahl)) +
-           " mal gezogen" + (auswertung.erreichtLetzteZiehung ? mitWochen(wochen, modus) : ohneWochen(modus));
+    const Grenzen extreme = grenzen(werte);
+    const std::int32_t fuss = ansicht == Balkenansicht::Zoom ? extreme.min : 0;
+    Balkengraphik graphik;
+    graphik.massstab = {fuss, std::max(extreme.max - fuss, 1)};
+    for (const Balkenwert& wert : werte)
+        graphik.balken.push_back({wert, kopf(wert.anzahl, graphik.massstab), marke(wert.anzahl, extreme)});
+    for (std::size_t i = 0; i < kAnteile.size(); ++i) {
+        graphik.skala[i] = Format(fuss + kAnteile[i] * (extreme.max - fuss), "#0.00");
+        const double hoehe = kAnteile[i] * graphik.massstab.spanne * graphik.massstab.skalenfaktor();
+        graphik.linien[i] = twips(Balkengraphik::kTiefsterKopf - hoehe);
+    }
+    return graphik;
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "shell/logic/Lottozahl.h"
-#include "statistics/logic/HaeufigkeitAuswertung.h"
-
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 /// The counts that the foot and the head of the scale stand for. All heights are twips.
 struct Massstab {
@@ -19,22 +17,51 @@ struct Massstab {
     constexpr double balkenfaktor() const { return static_cast<double>(kBalkenhoehe) / spanne; } ///< twips a count
 };
 
-/// The bar chart of the 49 counts. Vertical positions are twips, growing downward.
+/// What a bar stands for, a number or a digit, and how often that was drawn.
+struct Balkenwert {
+    int zahl = 0;
+    std::int32_t anzahl = 0;
+
+    bool operator==(const Balkenwert&) const = default;
+};
+
+/// A bar for each of a row of counts, ascending; the first one stands for `erste`.
+template <class Anzahlen> std::vector<Balkenwert> balkenwerte(const Anzahlen& anzahlen, int erste)
+{
+    std::vector<Balkenwert> werte;
+    werte.reserve(anzahlen.size());
+    for (const auto anzahl : anzahlen)
+        werte.push_back({erste + static_cast<int>(werte.size()), anzahl});
+    return werte;
+}
+
+/// The most frequent first; equals keep their order.
+std::vector<Balkenwert> nachHaeufigkeit(std::vector<Balkenwert> werte);
+
+/// What a count is among all of its chart. One that is both is the lowest.
+enum class Balkenmarke : std::uint8_t { Keine, Hoechster, Niedrigster };
+
+struct Balken {
+    Balkenwert wert;
+    int oben = 0; ///< its top in twips
+    Balkenmarke marke = Balkenmarke::Keine;
+};
+
+enum class Balkenansicht {
+    Normal, ///< the scale begins at 0
+    Zoom    ///< the scale begins at the lowest count, so that the differences stand out
+};
+
+/// A chart of counts. Vertical positions are twips, growing downward.
 struct Balkengraphik {
     static constexpr int kGrundlinie = 3890;   ///< where the bars stand
     static constexpr int kTiefsterKopf = 3860; ///< no bar begins below, so that one of height 0 stays visible
 
     Massstab massstab;
-    std::array<int, kHoechsteZahl> oben{}; ///< top of each bar; index: number - 1
-    std::array<std::string, 5> skala;      ///< "#0.00" from the head of the scale down to its foot
-    std::array<int, 5> linien{};           ///< height of the horizontal line of each scale text
+    std::vector<Balken> balken;       ///< in the order of the values
+    std::array<std::string, 5> skala; ///< "#0.00" from the head of the scale down to its foot
+    std::array<int, 5> linien{};      ///< height of the horizontal line of each scale text
 };
 
-/// Scale from 0 to the highest count.
-Balkengraphik balkenNormal(const Haeufigkeit& haeufigkeit);
-/// Scale from the lowest to the highest count.
-Balkengraphik balkenZoom(const Haeufigkeit& haeufigkeit);
-
-/// The text line for the bar of a number 1..49: its count and, if the evaluation reached the last draw, how many
-/// weeks ago it came.
-std::string balkenText(const HaeufigkeitAuswertung& auswertung, int zahl);
+/// The bars of these values; the scale ends at the highest count. Without values there is a scale of zeros.
+Balkengraphik balkengraphik(const std::vector<Balkenwert>& werte, Balkenansicht ansicht);

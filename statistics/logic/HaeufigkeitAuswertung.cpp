@@ -74,6 +74,17 @@ void merkeLetzteZiehung(HaeufigkeitAuswertung& auswertung, const ZiehungsArchiv&
     auswertung.zuletztVor = zuletztVor(archiv, auswertung.ZaehlModus);
 }
 
+/// How the mode stands behind the count when the weeks are left out: one blank without Zusatzzahl, else two.
+std::string ohneWochen(ZZModus modus)
+{
+    return (modus == ZZModus::Ohne ? ", (" : ",  (") + zzKurztext(modus) + ")";
+}
+
+std::string mitWochen(std::int32_t wochen, ZZModus modus)
+{
+    return ", zuletzt gezogen vor: " + std::to_string(wochen) + " Wochen (" + zzKurztext(modus) + ")";
+}
+
 } // namespace
 
 HaeufigkeitAuswertung werteAus(const ZiehungsArchiv& archiv, const Ziehungsbereich& bereich,
@@ -115,6 +126,14 @@ std::string maximumText(const Extremwerte& extreme)
 std::string minimumText(const Extremwerte& extreme)
 {
     return extremText("Min", extreme.zahlMin, extreme.min);
+}
+
+std::string balkenText(const HaeufigkeitAuswertung& auswertung, int zahl)
+{
+    const ZZModus modus = auswertung.ZaehlModus;
+    const std::int32_t wochen = auswertung.zuletztVor[static_cast<std::size_t>(zahl - 1)];
+    return "Zahl " + std::to_string(zahl) + " -> " + std::to_string(auswertung.haeufigkeit.fuer(zahl)) +
+           " mal gezogen" + (auswertung.erreichtLetzteZiehung ? mitWochen(wochen, modus) : ohneWochen(modus));
 }
 
 Druckauftrag druckauftrag(const HaeufigkeitAuswertung& auswertung)

@@ -39,5 +39,9 @@ std::string maximumText(const Extremwerte& extreme);
 /// "Min: Zahl -> 13 (98 mal gezogen)".
 std::string minimumText(const Extremwerte& extreme);
 
+/// The text line for the bar of a number 1..49: its count and, if the evaluation reached the last draw, how many
+/// weeks ago it came.
+std::string balkenText(const HaeufigkeitAuswertung& auswertung, int zahl);
+
 /// Two heading lines and a line of blanks, then a line for each number. The heading comes anew on every page.
 Druckauftrag druckauftrag(const HaeufigkeitAuswertung& auswertung);

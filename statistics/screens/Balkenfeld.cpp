@@ -2,87 +2,104 @@
 
 #include "shell/elements/Farben.h"
 #include "shell/elements/Utf8.h"
-#include "shell/logic/Lottozahl.h"
 
 #include <QLabel>
 #include <QPainter>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
+
 const QColor kBalken{46, 139, 87};
 const QColor kLinie{200, 206, 200};
-constexpr int kSkalenbreite = 64;
-constexpr int kRand = 8;
+
+const QColor& farbe(Balkenmarke marke)
+{
+    switch (marke) {
+    case Balkenmarke::Hoechster:
+        return Farben::Hoechstwert;
+    case Balkenmarke::Niedrigster:
+        return Farben::Markiert;
+    case Balkenmarke::Keine:
+        break;
+    }
+    return kBalken;
+}
+
 } // namespace
 
-Balkenfeld::Balkenfeld(QWidget* eltern) : QFrame(eltern)
+Balkenfeld::Balkenfeld(QWidget* eltern, const Balkenfeldbau& bau) : QFrame(eltern), bau_(bau)
 {
-    setObjectName("Bild1");
+    setObjectName(bau.rahmen);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
-    for (int i = 0; i < kHoechsteZahl; ++i) {
+    for (int i = 0; i < bau.anzahl; ++i) {
         auto* balken = new QFrame(this);
-        balken->setObjectName(QString("Bild2(%1)").arg(i + 1));
-        Bild2[static_cast<std::size_t>(i)] = balken;
+        balken->setObjectName(QString("%1(%2)").arg(bau.balken).arg(bau.erste + i));
+        balken->hide();
+        balken_.push_back(balken);
     }
     for (std::size_t i = 0; i < skala_.size(); ++i) {
         skala_[i] = new QLabel(this);
         skala_[i]->setObjectName(QString("lblSkala(%1)").arg(i));
-        skala_[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
 }
 
-void Balkenfeld::zeige(const Balkengraphik& graphik, const Extremwerte& extreme)
+void Balkenfeld::zeige(const Balkengraphik& graphik)
 {
     graphik_ = graphik;
-    for (std::size_t i = 0; i < Bild2.size(); ++i) {
-        const bool hoechster = extreme.maxima[i + 1];
-        const bool niedrigster = extreme.minima[i + 1];
-        faerbe(Bild2[i], niedrigster ? Farben::Markiert : hoechster ? Farben::Hoechstwert : kBalken, Farben::Text);
+    for (QFrame* balken : balken_)
+        balken->hide();
+    for (const Balken& balken : graphik_.balken) {
+        faerbe(feld(balken.wert.zahl), farbe(balken.marke), Farben::Text);
+        feld(balken.wert.zahl)->show();
     }
     for (std::size_t i = 0; i < skala_.size(); ++i)
         skala_[i]->setText(qt(graphik_.skala[i]));
     ordne();
 }
 
-int Balkenfeld::zahlVon(const QWidget* feld) const
+std::optional<int> Balkenfeld::zahlVon(const QWidget* feld) const
 {
-    for (std::size_t i = 0; i < Bild2.size(); ++i)
-        if (Bild2[i] == feld)
-            return static_cast<int>(i) + 1;
-    return 0;
+    const auto stelle = std::ranges::find(balken_, feld);
+    if (stelle == balken_.end())
+        return std::nullopt;
+    return bau_.erste + static_cast<int>(std::distance(balken_.begin(), stelle));
 }
 
-QRect Balkenfeld::flaeche() const
+QSize Balkenfeld::minimumSizeHint() const
 {
-    const int zahlenreihen = 2 * fontMetrics().lineSpacing();
-    return contentsRect().adjusted(kSkalenbreite, kRand, -kRand, -zahlenreihen - kRand);
+    return Balkenlage::mindestgroesse(bau_.richtung, bau_.anzahl, fontMetrics());
 }
 
-int Balkenfeld::pixel(int twips) const
+QSize Balkenfeld::sizeHint() const
 {
-    const QRect platz = flaeche();
-    return platz.top() + twips * platz.height() / Balkengraphik::kGrundlinie;
+    const QSize kleinste = minimumSizeHint();
+    return bau_.richtung == Balkenrichtung::Aufwaerts ? QSize(kleinste.width() * 5 / 4, kleinste.height() * 2)
+                                                      : QSize(kleinste.width() * 3 / 2, kleinste.height());
 }
 
-QRect Balkenfeld::platz(int stelle, int obenTwips) const
+Balkenlage Balkenfeld::lage() const
 {
-    const QRect platz = flaeche();
-    const int links = platz.left() + stelle * platz.width() / kHoechsteZahl;
-    const int rechts = platz.left() + (stelle + 1) * platz.width() / kHoechsteZahl;
-    return {QPoint(links + 2, pixel(obenTwips)), QPoint(rechts - 2, platz.bottom())};
+    return {bau_.richtung, contentsRect(), static_cast<int>(graphik_.balken.size()), fontMetrics()};
+}
+
+QFrame* Balkenfeld::feld(int zahl) const
+{
+    return balken_[static_cast<std::size_t>(zahl - bau_.erste)];
 }
 
 void Balkenfeld::ordne()
 {
-    for (int i = 0; i < kHoechsteZahl; ++i) {
-        const auto stelle = static_cast<std::size_t>(i);
-        Bild2[stelle]->setGeometry(platz(i, graphik_.oben[stelle]));
-    }
-    const int hoehe = fontMetrics().height();
+    const Balkenlage lage = this->lage();
+    for (int stelle = 0; const Balken& balken : graphik_.balken)
+        feld(balken.wert.zahl)->setGeometry(lage.balken(stelle++, balken.oben));
     for (std::size_t i = 0; i < skala_.size(); ++i) {
-        const int mitte = pixel(graphik_.linien[i]);
-        skala_[i]->setGeometry(contentsRect().left(), mitte - hoehe / 2, kSkalenbreite - kRand, hoehe);
+        const Textplatz platz = lage.skalentext(graphik_.linien[i]);
+        skala_[i]->setGeometry(platz.rechteck);
+        skala_[i]->setAlignment(platz.ausrichtung);
     }
     update();
 }
@@ -95,16 +112,19 @@ void Balkenfeld::resizeEvent(QResizeEvent*)
 void Balkenfeld::paintEvent(QPaintEvent* ereignis)
 {
     QFrame::paintEvent(ereignis);
+    const Balkenlage lage = this->lage();
     QPainter maler(this);
-    const QRect platzFuerBalken = flaeche();
     maler.setPen(kLinie);
     for (const int linie : graphik_.linien)
-        maler.drawLine(platzFuerBalken.left(), pixel(linie), platzFuerBalken.right(), pixel(linie));
+        maler.drawLine(lage.linie(linie));
     maler.setPen(palette().color(QPalette::Text));
-    const int zeile = fontMetrics().lineSpacing();
-    for (int i = 0; i < kHoechsteZahl; ++i) {
-        const QRect balken = platz(i, 0).adjusted(-8, 0, 8, 0);
-        const int oben = platzFuerBalken.bottom() + 4 + (i % 2) * zeile;
-        maler.drawText(QRect(balken.left(), oben, balken.width(), zeile), Qt::AlignCenter, QString::number(i + 1));
+    const auto schreibe = [&maler](const Textplatz& platz, int zahl) {
+        maler.drawText(platz.rechteck, static_cast<int>(platz.ausrichtung), QString::number(zahl));
+    };
+    for (int stelle = 0; const Balken& balken : graphik_.balken) {
+        schreibe(lage.zahl(stelle), balken.wert.zahl);
+        if (bau_.mitAnzahl)
+            schreibe(lage.anzahl(stelle, balken.oben), balken.wert.anzahl);
+        ++stelle;
     }
 }

@@ -45,8 +45,8 @@ frmGraph::frmGraph(Umgebung& umgebung)
     // clang-format on
 
     bei(Befehl1, [this] { schliesse(); });
-    bei(Befehl2, [this] { zeige(balkenZoom(statistik_.ergebnis().haeufigkeit), true); });
-    bei(Befehl3, [this] { zeige(balkenNormal(statistik_.ergebnis().haeufigkeit), false); });
+    bei(Befehl2, [this] { zeige(Balkenansicht::Zoom); });
+    bei(Befehl3, [this] { zeige(Balkenansicht::Normal); });
     bei(Befehl4, [this] { this->umgebung().boxen.info(kInfotitel, kInfo); });
     bei(Befehl5, [this] { statistik_.werteAus(ZZModus::Mit); });
     bei(Befehl6, [this] { statistik_.werteAus(ZZModus::Ohne); });
@@ -71,20 +71,20 @@ void frmGraph::folge()
     Bezeichnung3->setText(qt(maximumText(extreme)));
     Bezeichnung4->setText(qt(minimumText(extreme)));
     Bezeichnung19->setText({});
-    zeige(balkenNormal(ergebnis.haeufigkeit), false);
+    zeige(Balkenansicht::Normal);
 }
 
-void frmGraph::zeige(const Balkengraphik& graphik, bool gezoomt)
+void frmGraph::zeige(Balkenansicht ansicht)
 {
-    Bild1->zeige(graphik, extremwerte(statistik_.ergebnis().haeufigkeit));
-    Befehl2->setEnabled(!gezoomt);
-    Befehl3->setEnabled(gezoomt);
+    Bild1->zeige(balkengraphik(balkenwerte(statistik_.ergebnis().haeufigkeit.anzahl, 1), ansicht));
+    Befehl2->setEnabled(ansicht == Balkenansicht::Normal);
+    Befehl3->setEnabled(ansicht == Balkenansicht::Zoom);
 }
 
 void frmGraph::mausUeber(QWidget* feld)
 {
-    if (const int zahl = Bild1->zahlVon(feld))
-        Bezeichnung19->setText(qt(balkenText(statistik_.ergebnis(), zahl)));
+    if (const auto zahl = Bild1->zahlVon(feld))
+        Bezeichnung19->setText(qt(balkenText(statistik_.ergebnis(), *zahl)));
     Bildschirm::mausUeber(feld);
 }
 

@@ -24,7 +24,7 @@ protected:
     void beimSchliessen() override;
 
 private:
-    void zeige(const Balkengraphik& graphik, bool gezoomt);
+    void zeige(Balkenansicht ansicht);
 
     frmSTAT1& statistik_;
     Balkenfeld* Bild1;

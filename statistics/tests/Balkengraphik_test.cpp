@@ -1,150 +1,141 @@
 #include "statistics/logic/Balkengraphik.h"
-#include "testhilfen/ArchivAus.h"
 
+#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <string>
 
 namespace {
 
 using testing::Each;
 using testing::ElementsAre;
 
-Haeufigkeit mitAnzahlen(std::int16_t alle, std::int16_t erste, std::int16_t letzte)
+using Werte = std::vector<Balkenwert>;
+
+/// 49 numbers with one count, but for the first and the last.
+Werte mitAnzahlen(std::int16_t alle, std::int16_t erste, std::int16_t letzte)
 {
-    Haeufigkeit haeufigkeit;
-    haeufigkeit.anzahl.fill(alle);
-    haeufigkeit.anzahl.front() = erste;
-    haeufigkeit.anzahl.back() = letzte;
-    return haeufigkeit;
+    std::array<std::int16_t, 49> anzahl{};
+    anzahl.fill(alle);
+    anzahl.front() = erste;
+    anzahl.back() = letzte;
+    return balkenwerte(anzahl, 1);
+}
+
+Balkengraphik normal(const Werte& werte)
+{
+    return balkengraphik(werte, Balkenansicht::Normal);
+}
+
+Balkengraphik zoom(const Werte& werte)
+{
+    return balkengraphik(werte, Balkenansicht::Zoom);
+}
+
+std::vector<int> koepfe(const Balkengraphik& graphik)
+{
+    std::vector<int> oben;
+    for (const Balken& balken : graphik.balken)
+        oben.push_back(balken.oben);
+    return oben;
+}
+
+std::vector<Balkenmarke> marken(const Balkengraphik& graphik)
+{
+    std::vector<Balkenmarke> marken;
+    for (const Balken& balken : graphik.balken)
+        marken.push_back(balken.marke);
+    return marken;
 }
 
 TEST(Balkengraphik, NormalReichtVonNullBisZumHoechsten)
 {
-    const Balkengraphik graphik = balkenNormal(mitAnzahlen(50, 100, 25));
+    const Balkengraphik graphik = normal(mitAnzahlen(50, 100, 25));
     EXPECT_DOUBLE_EQ(graphik.massstab.skalenfaktor(), 34.2);
     EXPECT_DOUBLE_EQ(graphik.massstab.balkenfaktor(), 34.6);
-    EXPECT_EQ(graphik.oben[0], 3890 - 3460);
-    EXPECT_EQ(graphik.oben[1], 3890 - 1730);
-    EXPECT_EQ(graphik.oben[48], 3890 - 865);
+    EXPECT_EQ(koepfe(graphik)[0], 3890 - 3460);
+    EXPECT_EQ(koepfe(graphik)[1], 3890 - 1730);
+    EXPECT_EQ(koepfe(graphik)[48], 3890 - 865);
     EXPECT_THAT(graphik.skala, ElementsAre("100,00", "75,00", "50,00", "25,00", "0,00"));
 }
 
 TEST(Balkengraphik, ZoomReichtVomNiedrigstenBisZumHoechsten)
 {
-    const Balkengraphik graphik = balkenZoom(mitAnzahlen(98, 100, 93));
+    const Balkengraphik graphik = zoom(mitAnzahlen(98, 100, 93));
     EXPECT_DOUBLE_EQ(graphik.massstab.skalenfaktor(), 3420.0 / 7);
     EXPECT_DOUBLE_EQ(graphik.massstab.balkenfaktor(), 3460.0 / 7);
-    EXPECT_EQ(graphik.oben[0], 430);
-    EXPECT_EQ(graphik.oben[1], 1419); // 3890 - 5 * 3460 / 7 = 1418.57
-    EXPECT_EQ(graphik.oben[48], 3860);
+    EXPECT_EQ(koepfe(graphik)[0], 430);
+    EXPECT_EQ(koepfe(graphik)[1], 1419); // 3890 - 5 * 3460 / 7 = 1418.57
+    EXPECT_EQ(koepfe(graphik)[48], 3860);
     EXPECT_THAT(graphik.skala, ElementsAre("100,00", "98,25", "96,50", "94,75", "93,00"));
 }
 
 TEST(Balkengraphik, EinBalkenDerHoeheNullBleibtSichtbar)
 {
-    const Balkengraphik graphik = balkenNormal(mitAnzahlen(1000, 0, 8));
-    EXPECT_EQ(graphik.oben[0], 3860);
-    EXPECT_EQ(graphik.oben[48], 3860); // 3890 - 27.68 lies below
-    EXPECT_EQ(balkenNormal(mitAnzahlen(1000, 9, 8)).oben[0], 3859);
+    const Balkengraphik graphik = normal(mitAnzahlen(1000, 0, 8));
+    EXPECT_EQ(koepfe(graphik)[0], 3860);
+    EXPECT_EQ(koepfe(graphik)[48], 3860); // 3890 - 27.68 lies below
+    EXPECT_EQ(koepfe(normal(mitAnzahlen(1000, 9, 8)))[0], 3859);
 }
 
 TEST(Balkengraphik, OhneJedeZahlIstDerMassstabEins)
 {
-    const Balkengraphik graphik = balkenNormal(Haeufigkeit{});
+    const Balkengraphik graphik = normal(mitAnzahlen(0, 0, 0));
     EXPECT_DOUBLE_EQ(graphik.massstab.skalenfaktor(), 3420);
     EXPECT_DOUBLE_EQ(graphik.massstab.balkenfaktor(), 3460);
-    EXPECT_THAT(graphik.oben, Each(3860));
+    EXPECT_THAT(koepfe(graphik), Each(3860));
     EXPECT_THAT(graphik.skala, Each("0,00"));
+}
+
+TEST(Balkengraphik, OhneWerteGibtEsKeineBalken)
+{
+    for (const Balkenansicht ansicht : {Balkenansicht::Normal, Balkenansicht::Zoom}) {
+        const Balkengraphik graphik = balkengraphik({}, ansicht);
+        EXPECT_TRUE(graphik.balken.empty());
+        EXPECT_THAT(graphik.skala, Each("0,00"));
+    }
 }
 
 TEST(Balkengraphik, ZoomBeiGleichenAnzahlenZeigtAlleAmFuss)
 {
-    const Balkengraphik graphik = balkenZoom(mitAnzahlen(7, 7, 7));
+    const Balkengraphik graphik = zoom(mitAnzahlen(7, 7, 7));
     EXPECT_DOUBLE_EQ(graphik.massstab.skalenfaktor(), 3420);
     EXPECT_DOUBLE_EQ(graphik.massstab.balkenfaktor(), 3460);
-    EXPECT_THAT(graphik.oben, Each(3860));
+    EXPECT_THAT(koepfe(graphik), Each(3860));
     EXPECT_THAT(graphik.skala, Each("7,00"));
 }
 
 TEST(Balkengraphik, NormalBeiGleichenAnzahlenZeigtAlleAmKopf)
 {
-    EXPECT_THAT(balkenNormal(mitAnzahlen(7, 7, 7)).oben, Each(430));
+    EXPECT_THAT(koepfe(normal(mitAnzahlen(7, 7, 7))), Each(430));
 }
 
 TEST(Balkengraphik, LinienTeilenDieSkalaInViertel)
 {
     const auto viertel = ElementsAre(440, 1295, 2150, 3005, 3860);
-    EXPECT_THAT(balkenNormal(mitAnzahlen(50, 100, 25)).linien, viertel);
-    EXPECT_THAT(balkenZoom(mitAnzahlen(98, 100, 93)).linien, viertel);
-    EXPECT_THAT(balkenNormal(Haeufigkeit{}).linien, viertel);
+    EXPECT_THAT(normal(mitAnzahlen(50, 100, 25)).linien, viertel);
+    EXPECT_THAT(zoom(mitAnzahlen(98, 100, 93)).linien, viertel);
+    EXPECT_THAT(normal({}).linien, viertel);
 }
 
-// The text line of a bar
-
-ZiehungsArchiv dreiJahre()
+TEST(Balkengraphik, ZehnZiffernBeginnenBeiNull)
 {
-    return archivAus(
-        Samstagslotto,
-        {{1955, 41, {1, 2, 3, 4, 5, 6}, 0}, {1956, 1, {1, 2, 3, 4, 5, 6}, 0}, {1957, 1, {1, 2, 3, 4, 5, 6}, 0}});
+    const Werte werte = balkenwerte(std::array{3, 9, 3, 5}, 0);
+    EXPECT_EQ(werte, (Werte{{0, 3}, {1, 9}, {2, 3}, {3, 5}}));
+    const Balkengraphik graphik = normal(werte);
+    EXPECT_EQ(graphik.balken[1].wert, (Balkenwert{1, 9}));
+    EXPECT_THAT(marken(graphik), ElementsAre(Balkenmarke::Niedrigster, Balkenmarke::Hoechster, Balkenmarke::Niedrigster,
+                                             Balkenmarke::Keine));
 }
 
-std::string textFuerEins(Auswertebereich bereich, ZZModus modus)
+TEST(Balkengraphik, WasBeidesIstGiltAlsNiedrigster)
 {
-    const ZiehungsArchiv archiv = dreiJahre();
-    const Bereichspruefung pruefung = bereich.pruefe();
-    if (!pruefung.bereich)
-        return "kein Bereich";
-    HaeufigkeitAuswertung auswertung = werteAus(archiv, *pruefung.bereich, bereich.angabe(), modus);
-    auswertung.zuletztVor[0] = 12;
-    return balkenText(auswertung, 1);
+    EXPECT_THAT(marken(normal(mitAnzahlen(7, 7, 7))), Each(Balkenmarke::Niedrigster));
 }
 
-std::string nachJahren(std::string bis, ZZModus modus)
+TEST(Balkengraphik, NachHaeufigkeitStehenGleicheNachZahl)
 {
-    Auswertebereich bereich{1955, 1957, 3};
-    bereich.setzeBis(std::move(bis));
-    return textFuerEins(bereich, modus);
-}
-
-std::string bisZiehung(std::string nr, ZZModus modus)
-{
-    Auswertebereich bereich{1955, 1957, 3};
-    bereich.zeigeBisZiehung();
-    bereich.setzeBisZiehung(std::move(nr));
-    return textFuerEins(bereich, modus);
-}
-
-TEST(BalkenText, BisZumLetztenSpieljahrMitWochen)
-{
-    EXPECT_EQ(nachJahren("1957", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (ohne ZZ)");
-    EXPECT_EQ(nachJahren("1957", ZZModus::Mit), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (mit ZZ)");
-    EXPECT_EQ(nachJahren("1957", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen, zuletzt gezogen vor: 12 Wochen (nur ZZ)");
-}
-
-TEST(BalkenText, VorDemLetztenSpieljahrOhneWochen)
-{
-    EXPECT_EQ(nachJahren("1956", ZZModus::Ohne), "Zahl 1 -> 2 mal gezogen, (ohne ZZ)");
-    EXPECT_EQ(nachJahren("1956", ZZModus::Mit), "Zahl 1 -> 2 mal gezogen,  (mit ZZ)");
-    EXPECT_EQ(nachJahren("1956", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen,  (nur ZZ)");
-}
-
-TEST(BalkenText, NachDemLetztenSpieljahrOhneWochen)
-{
-    EXPECT_EQ(nachJahren("1958", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, (ohne ZZ)");
-    EXPECT_EQ(nachJahren("9999", ZZModus::Mit), "Zahl 1 -> 3 mal gezogen,  (mit ZZ)");
-}
-
-TEST(BalkenText, BisZurLetztenZiehungMitWochen)
-{
-    EXPECT_EQ(bisZiehung("3", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (ohne ZZ)");
-    EXPECT_EQ(bisZiehung("99", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (ohne ZZ)");
-}
-
-TEST(BalkenText, VorDerLetztenZiehungOhneWochen)
-{
-    EXPECT_EQ(bisZiehung("2", ZZModus::Ohne), "Zahl 1 -> 2 mal gezogen, (ohne ZZ)");
-    EXPECT_EQ(bisZiehung("2", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen,  (nur ZZ)");
+    EXPECT_EQ(nachHaeufigkeit(balkenwerte(std::array{3, 9, 3, 5, 9}, 1)),
+              (Werte{{2, 9}, {5, 9}, {4, 5}, {1, 3}, {3, 3}}));
 }
 
 } // namespace

@@ -232,4 +232,71 @@ TEST(HaeufigkeitDruck, EinSeitenwechselWiederholtDenKopf)
     EXPECT_EQ(seiten[1][4], "   Zahl 28 wurde     0 mal gezogen");
 }
 
+// The text line of a bar
+
+ZiehungsArchiv dreiJahre()
+{
+    return archivAus(
+        Samstagslotto,
+        {{1955, 41, {1, 2, 3, 4, 5, 6}, 0}, {1956, 1, {1, 2, 3, 4, 5, 6}, 0}, {1957, 1, {1, 2, 3, 4, 5, 6}, 0}});
+}
+
+std::string textFuerEins(Auswertebereich bereich, ZZModus modus)
+{
+    const ZiehungsArchiv archiv = dreiJahre();
+    const Bereichspruefung pruefung = bereich.pruefe();
+    if (!pruefung.bereich)
+        return "kein Bereich";
+    HaeufigkeitAuswertung auswertung = werteAus(archiv, *pruefung.bereich, bereich.angabe(), modus);
+    auswertung.zuletztVor[0] = 12;
+    return balkenText(auswertung, 1);
+}
+
+std::string nachJahren(std::string bis, ZZModus modus)
+{
+    Auswertebereich bereich{1955, 1957, 3};
+    bereich.setzeBis(std::move(bis));
+    return textFuerEins(bereich, modus);
+}
+
+std::string bisZiehung(std::string nr, ZZModus modus)
+{
+    Auswertebereich bereich{1955, 1957, 3};
+    bereich.zeigeBisZiehung();
+    bereich.setzeBisZiehung(std::move(nr));
+    return textFuerEins(bereich, modus);
+}
+
+TEST(BalkenText, BisZumLetztenSpieljahrMitWochen)
+{
+    EXPECT_EQ(nachJahren("1957", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (ohne ZZ)");
+    EXPECT_EQ(nachJahren("1957", ZZModus::Mit), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (mit ZZ)");
+    EXPECT_EQ(nachJahren("1957", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen, zuletzt gezogen vor: 12 Wochen (nur ZZ)");
+}
+
+TEST(BalkenText, VorDemLetztenSpieljahrOhneWochen)
+{
+    EXPECT_EQ(nachJahren("1956", ZZModus::Ohne), "Zahl 1 -> 2 mal gezogen, (ohne ZZ)");
+    EXPECT_EQ(nachJahren("1956", ZZModus::Mit), "Zahl 1 -> 2 mal gezogen,  (mit ZZ)");
+    EXPECT_EQ(nachJahren("1956", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen,  (nur ZZ)");
+}
+
+TEST(BalkenText, NachDemLetztenSpieljahrOhneWochen)
+{
+    EXPECT_EQ(nachJahren("1958", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, (ohne ZZ)");
+    EXPECT_EQ(nachJahren("9999", ZZModus::Mit), "Zahl 1 -> 3 mal gezogen,  (mit ZZ)");
+}
+
+TEST(BalkenText, BisZurLetztenZiehungMitWochen)
+{
+    EXPECT_EQ(bisZiehung("3", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (ohne ZZ)");
+    EXPECT_EQ(bisZiehung("99", ZZModus::Ohne), "Zahl 1 -> 3 mal gezogen, zuletzt gezogen vor: 12 Wochen (ohne ZZ)");
+}
+
+TEST(BalkenText, VorDerLetztenZiehungOhneWochen)
+{
+    EXPECT_EQ(bisZiehung("2", ZZModus::Ohne), "Zahl 1 -> 2 mal gezogen, (ohne ZZ)");
+    EXPECT_EQ(bisZiehung("2", ZZModus::Nur), "Zahl 1 -> 0 mal gezogen,  (nur ZZ)");
+}
+
 } // namespace
