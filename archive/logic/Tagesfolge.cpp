@@ -4,7 +4,7 @@
 #include "shell/logic/Texte.h"
 
 #include <algorithm>
-#include <numeric>
+#include <array>
 #include <string_view>
 
 namespace {
@@ -37,6 +37,60 @@ std::int32_t tageszahl(std::string_view datum)
     return zahl;
 }
 
+/// Spieljahr, Spielwoche, numbers and Zusatzzahl: the fields of a line behind the day.
+std::array<std::int32_t, 9> zahlenfelder(const ZiehungsArchiv& archiv, std::size_t nr)
+{
+    return {archiv.jjjj[nr], archiv.sw[nr], archiv.z1[nr], archiv.z2[nr], archiv.z3[nr],
+            archiv.z4[nr],   archiv.z5[nr], archiv.z6[nr], archiv.zz[nr]};
+}
+
+/// True if the value is as wide in its line as it is in a whole file; then its text is in the order of the numbers.
+bool hatUeblicheBreite(std::size_t feld, std::int32_t wert)
+{
+    return feld == 0 ? wert >= 1000 && wert <= 9999 : wert >= 0 && wert <= 99;
+}
+
+/// The order of the lines of two draws of one day. Making the lines is slow, and hardly ever needed.
+bool zeileStehtVor(const ZiehungsArchiv& archiv, std::size_t a, std::size_t b)
+{
+    const auto felderA = zahlenfelder(archiv, a);
+    const auto felderB = zahlenfelder(archiv, b);
+    for (std::size_t feld = 0; feld < felderA.size(); ++feld) {
+        if (!hatUeblicheBreite(feld, felderA[feld]) || !hatUeblicheBreite(feld, felderB[feld]))
+            break;
+        if (felderA[feld] != felderB[feld])
+            return felderA[feld] < felderB[feld];
+    }
+    return tageszeile(archiv, a) < tageszeile(archiv, b);
+}
+
+/// A draw and its day as one number, which sorts faster than two.
+using Tagesschluessel = std::uint64_t;
+
+Tagesschluessel schluessel(std::int32_t tag, std::size_t nr)
+{
+    return static_cast<Tagesschluessel>(tag) << 32U | nr;
+}
+std::size_t tagVon(Tagesschluessel schluessel)
+{
+    return schluessel >> 32U;
+}
+std::size_t ziehungVon(Tagesschluessel schluessel)
+{
+    return schluessel & 0xFFFFFFFFU;
+}
+
+/// Brings the draws of each day in the order of their lines.
+void ordneTageNachZeilentext(std::vector<Tagesschluessel>& folge, const ZiehungsArchiv& archiv)
+{
+    for (auto von = folge.begin(); von != folge.end();) {
+        const auto bis = std::find_if(von, folge.end(), [tag = tagVon(*von)](auto s) { return tagVon(s) != tag; });
+        if (bis - von > 1)
+            std::sort(von, bis, [&](auto a, auto b) { return zeileStehtVor(archiv, ziehungVon(a), ziehungVon(b)); });
+        von = bis;
+    }
+}
+
 } // namespace
 
 std::string tagestext(const std::string& datum)
@@ -59,19 +113,14 @@ std::string tageszeile(const ZiehungsArchiv& archiv, std::size_t nr)
 
 std::vector<std::int32_t> tagesfolge(const ZiehungsArchiv& archiv, Tagesordnung ordnung)
 {
-    const auto anzahl = static_cast<std::size_t>(archiv.AnzahlZiehungen);
-    std::vector<std::int32_t> tage(anzahl + 1);
-    for (std::size_t nr = 1; nr <= anzahl; ++nr)
-        tage[nr] = tageszahl(datumAlleVon(archiv, nr));
+    std::vector<Tagesschluessel> geordnet(static_cast<std::size_t>(archiv.AnzahlZiehungen));
+    for (std::size_t i = 0; i < geordnet.size(); ++i)
+        geordnet[i] = schluessel(tageszahl(datumAlleVon(archiv, i + 1)), i + 1);
+    std::ranges::sort(geordnet);
+    if (ordnung == Tagesordnung::NachZeilentext)
+        ordneTageNachZeilentext(geordnet, archiv);
 
-    std::vector<std::int32_t> folge(anzahl);
-    std::iota(folge.begin(), folge.end(), 1);
-    std::ranges::stable_sort(folge, [&](std::int32_t a, std::int32_t b) {
-        const std::int32_t tagA = tage[static_cast<std::size_t>(a)];
-        const std::int32_t tagB = tage[static_cast<std::size_t>(b)];
-        if (tagA != tagB || ordnung == Tagesordnung::NachSpielart)
-            return tagA < tagB;
-        return tageszeile(archiv, static_cast<std::size_t>(a)) < tageszeile(archiv, static_cast<std::size_t>(b));
-    });
+    std::vector<std::int32_t> folge(geordnet.size());
+    std::ranges::transform(geordnet, folge.begin(), [](auto s) { return static_cast<std::int32_t>(ziehungVon(s)); });
     return folge;
 }

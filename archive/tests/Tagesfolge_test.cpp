@@ -1,8 +1,10 @@
 #include "archive/logic/Tagesfolge.h"
 #include "testhilfen/ArchivAus.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -35,6 +37,24 @@ TEST(Tagesfolge, OrdnetEinenTagNachDemZeilentext)
 {
     const ZiehungsArchiv archiv = gemeinsam(kDreiSpiele); // the B draw of 29.11. has the lower numbers
     EXPECT_EQ(tagesfolge(archiv, Tagesordnung::NachZeilentext), (Folge{5, 1, 6, 3, 2, 4}));
+}
+
+TEST(Tagesfolge, OrdnetAuchUnueblicheWerteNachDemZeilentext)
+{
+    const std::vector<TestZiehung> ziehungen{
+        {2000, 8, {7, 2, 3, 4, 5, 6}, 0},  {2000, 8, {100, 2, 3, 4, 5, 6}, 0}, {2000, 8, {10, 2, 3, 4, 5, 6}, 0},
+        {2000, 8, {-1, 2, 3, 4, 5, 6}, 0}, {30, 8, {1, 2, 3, 4, 5, 6}, 0},     {2000, 8, {7, 2, 3, 4, 5, 6}, 0},
+        {5, 8, {1, 2, 3, 4, 5, 6}, 0},     {2000, 9, {1, 2, 3, 4, 5, 6}, 0},   {2000, 8, {7, 2, 3, 4, 5, 6}, 40}};
+    ZiehungsArchiv archiv = archivAus(Samstagslotto, ziehungen);
+    archiv.DatumAlle.insert(archiv.DatumAlle.end(), ziehungen.size(), "Mi, 23.02.2000");
+    std::vector<std::pair<std::string, std::int32_t>> soll;
+    for (std::int32_t nr = 1; nr <= archiv.AnzahlZiehungen; ++nr)
+        soll.emplace_back(tageszeile(archiv, static_cast<std::size_t>(nr)), nr);
+    std::ranges::sort(soll);
+    const Folge ist = tagesfolge(archiv, Tagesordnung::NachZeilentext);
+    ASSERT_EQ(ist.size(), soll.size());
+    for (std::size_t i = 0; i < ist.size(); ++i)
+        EXPECT_EQ(tageszeile(archiv, static_cast<std::size_t>(ist[i])), soll[i].first);
 }
 
 TEST(Tagesfolge, DasJahrGehtVorMonatUndTag)
