@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -101,11 +102,12 @@ struct Umgebung {
     Uhr& uhr;
     Zufall& zufall;
     Pumpe& pumpe;
-    std::optional<QRect> schreibtisch = {};       ///< the desktop, if it is another one than the screen shows
-    BildschirmVerzeichnis* bildschirme = nullptr; ///< set once the screens are registered
-    Menue* menue = nullptr;                       ///< set while the selection menu exists
-    bool VorschlagLaeuft = false;                 ///< the tip proposals use other screens as their engines
-    bool BerichtAbbruch = false;                  ///< the compact page is to end: the screens it drives stop too
+    std::optional<QRect> schreibtisch = {};         ///< the desktop, if it is another one than the screen shows
+    BildschirmVerzeichnis* bildschirme = nullptr;   ///< set once the screens are registered
+    Menue* menue = nullptr;                         ///< set while the selection menu exists
+    std::chrono::milliseconds animationsdauer{400}; ///< of one play of numbers; 0 shows none
+    bool VorschlagLaeuft = false;                   ///< the tip proposals use other screens as their engines
+    bool BerichtAbbruch = false;                    ///< the compact page is to end: the screens it drives stop too
 };
 
 /// The title of every box that has none of its own.

@@ -6,6 +6,7 @@
 #include "statistics/logic/Spielwochen.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -20,6 +21,11 @@ std::string zusatzzahlText(const Wochenziehung& ziehung, bool mitZZ)
     if (!mitZZ)
         return "  ";
     return ziehung.zz > 0 ? Format(ziehung.zz, "00") : "- ";
+}
+
+std::string zeileNachHaeufigkeit(const Wochenstatistik& statistik, int zahl)
+{
+    return Format(statistik.anzahl[static_cast<std::size_t>(zahl - 1)], "@@@") + " mal die " + Format(zahl, "@@");
 }
 
 } // namespace
@@ -59,13 +65,20 @@ std::vector<std::string> ziehungszeilen(const Wochenstatistik& statistik)
     return zeilen;
 }
 
+std::vector<int> zahlenNachHaeufigkeit(const Wochenstatistik& statistik)
+{
+    std::vector<int> zahlen(statistik.anzahl.size());
+    std::iota(zahlen.begin(), zahlen.end(), 1);
+    std::ranges::sort(zahlen, {}, [&statistik](int zahl) { return zeileNachHaeufigkeit(statistik, zahl); });
+    return zahlen;
+}
+
 std::vector<std::string> zeilenNachHaeufigkeit(const Wochenstatistik& statistik)
 {
     std::vector<std::string> zeilen;
     zeilen.reserve(statistik.anzahl.size());
-    for (std::size_t i = 0; i < statistik.anzahl.size(); ++i)
-        zeilen.push_back(Format(statistik.anzahl[i], "@@@") + " mal die " + Format(i + 1, "@@"));
-    std::sort(zeilen.begin(), zeilen.end());
+    for (const int zahl : zahlenNachHaeufigkeit(statistik))
+        zeilen.push_back(zeileNachHaeufigkeit(statistik, zahl));
     return zeilen;
 }
 

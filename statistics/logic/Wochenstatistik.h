@@ -36,6 +36,9 @@ std::int32_t naechsteSpielwoche(const ZiehungsArchiv& archiv);
 /// Zusatzzahl, if it counts, at 29 ("-" for none), the date at 33.
 std::vector<std::string> ziehungszeilen(const Wochenstatistik& statistik);
 
+/// The 49 numbers in the order of their lines below.
+std::vector<int> zahlenNachHaeufigkeit(const Wochenstatistik& statistik);
+
 /// "  7 mal die 13" for each number, in the order of the text: the most frequent last, of equals the highest number.
 std::vector<std::string> zeilenNachHaeufigkeit(const Wochenstatistik& statistik);
 

@@ -96,6 +96,7 @@ bool BeobachtetePumpe::verarbeite()
 Buehne::Buehne(const QString& verzeichnis)
 {
     archiv.ProgrammVerzeichnis = (QDir(verzeichnis).absolutePath() + QDir::separator()).toStdString();
+    umgebung.animationsdauer = {};
     if (QGuiApplication::platformName() == "offscreen") // whose screen is smaller than any desktop
         umgebung.schreibtisch = QRect(0, 0, 1280, 800);
 }
