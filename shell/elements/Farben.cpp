@@ -2,6 +2,7 @@
 
 #include <QAbstractScrollArea>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QPalette>
 #include <QPushButton>
 
@@ -26,9 +27,10 @@ void faerbe(QWidget* feld, const QColor& grund, const QColor& schrift)
 {
     const auto* rollend = qobject_cast<const QAbstractScrollArea*>(feld);
     const QWidget* flaeche = rollend ? rollend->viewport() : feld;
+    const bool eingabe = qobject_cast<const QLineEdit*>(feld);
     QPalette p = feld->palette();
-    p.setColor(flaeche->backgroundRole(), grund);
-    p.setColor(flaeche->foregroundRole(), schrift);
+    p.setColor(eingabe ? QPalette::Base : flaeche->backgroundRole(), grund);
+    p.setColor(eingabe ? QPalette::Text : flaeche->foregroundRole(), schrift);
     feld->setPalette(p);
     feld->setAutoFillBackground(true);
 }

@@ -3,6 +3,19 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+namespace {
+
+QStyle::PrimitiveElement pfeil(const QString& zeichen)
+{
+    if (zeichen == "3")
+        return QStyle::PE_IndicatorArrowLeft;
+    if (zeichen == "4")
+        return QStyle::PE_IndicatorArrowRight;
+    return zeichen == "5" ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown;
+}
+
+} // namespace
+
 Pfeilknopf::Pfeilknopf(const QString& name, const QString& zeichen, const QString& hinweis, QWidget* eltern)
     : QPushButton(zeichen, eltern)
 {
@@ -27,5 +40,5 @@ void Pfeilknopf::paintEvent(QPaintEvent*)
     maler.drawControl(QStyle::CE_PushButton, aussehen);
     const int seite = aussehen.fontMetrics.height();
     aussehen.rect = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, {seite, seite}, rect());
-    maler.drawPrimitive(text() == "5" ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown, aussehen);
+    maler.drawPrimitive(pfeil(text()), aussehen);
 }

@@ -31,3 +31,7 @@ std::optional<std::int32_t> superzahlVon(const Tippreihe& reihe);
 
 /// The numbers of a valid row; nothing for any other.
 std::optional<Kombination> kombinationVon(const Tippreihe& reihe);
+
+/// The row with `zahl` in a field 0..5, its numbers in ascending order from the first field on: equal ones become one,
+/// and what is no number of the game is gone.
+Tippreihe mitZahl(Tippreihe reihe, std::size_t feld, std::int32_t zahl);

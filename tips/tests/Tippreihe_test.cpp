@@ -44,3 +44,12 @@ TEST(Tippreihe, DieSuperzahlIstEineZiffer)
         EXPECT_FALSE(superzahlVon(reihe({}, text))) << text;
     EXPECT_EQ(superzahlVon(reihe({}, " 0")), 0);
 }
+
+TEST(Tippreihe, EineNeueZahlOrdnetDieReihe)
+{
+    EXPECT_EQ(mitZahl(reihe({"7", "", "", "", "", ""}, "5"), 1, 3), reihe({"3", "7", "", "", "", ""}, "5"));
+    EXPECT_EQ(mitZahl(reihe({"3", "7", "", "", "", ""}), 2, 7), reihe({"3", "7", "", "", "", ""}));
+    EXPECT_EQ(mitZahl(reihe({" 3", "x", "50", "-1", "49", "03"}), 5, 1), reihe({"1", "3", "49", "", "", ""}));
+    EXPECT_EQ(mitZahl(reihe({"1", "2", "3", "4", "5", "6"}), 0, 49), reihe({"2", "3", "4", "5", "6", "49"}));
+    EXPECT_EQ(mitZahl(reihe({"", "", "", "", "", ""}), 5, 8), reihe({"8", "", "", "", "", ""}));
+}
