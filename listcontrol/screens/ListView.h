@@ -179,6 +179,12 @@ public:
     int BorderStyle() const { return frameShape() == QFrame::NoFrame ? 0 : 1; }
     void setBorderStyle(int style);
     bool Enabled() const { return isEnabled(); }
+    /// How many rows the list would like to have in sight.
+    void setzeSichtbar(int zeilen)
+    {
+        sichtbareZeilen_ = zeilen;
+        updateGeometry();
+    }
     /// Spreads spare width over the columns that the user has not sized; separators stay.
     bool ColumnsAutoSize() const { return spaltenStrecken_; }
     void setColumnsAutoSize(bool autoSize);
@@ -333,5 +339,6 @@ private:
     bool fokusSolide_ = true;
     bool imKaestchen_ = false; ///< the mouse was pressed on a check box
     int ablegemodus_ = 0;
+    int sichtbareZeilen_ = 8;
     int zielzeile_ = -1; ///< to be scrolled to when drawing goes on; -1 for none
 };

@@ -8,14 +8,15 @@
 #include <QScrollBar>
 #include <QToolTip>
 
+#include <algorithm>
 #include <exception>
+#include <iterator>
 
 namespace {
 
-constexpr int kKaestchen = 13;    ///< pixels of an edge
-constexpr int kZeilenAnfangs = 8; ///< in sight, as the list would like it
+constexpr int kKaestchen = 13; ///< pixels of an edge
 constexpr int kZeilenMindestens = 3;
-constexpr int kBreiteHoechstens = 1000; ///< that the list would like; beyond it scrolls
+constexpr int kBreiteHoechstens = 1240; ///< that the list would like; beyond it scrolls
 constexpr int kBreiteMindestens = 160;
 
 QColor qt(const Farbe& farbe)
@@ -27,6 +28,15 @@ Farbe farbe(const QColor& von)
 {
     return {static_cast<std::uint8_t>(von.red()), static_cast<std::uint8_t>(von.green()),
             static_cast<std::uint8_t>(von.blue())};
+}
+
+/// The text without the control characters at its ends, which mark a cell.
+std::string_view ohneMarken(std::string_view text)
+{
+    const auto istText = [](char zeichen) { return static_cast<unsigned char>(zeichen) >= ' '; };
+    const auto anfang = std::ranges::find_if(text, istText);
+    const auto ende = std::find_if(text.rbegin(), std::make_reverse_iterator(anfang), istText).base();
+    return {anfang, ende};
 }
 
 } // namespace
@@ -50,7 +60,7 @@ QSize ListView::groesseFuer(int zeilen, int hoechstens) const
 
 QSize ListView::sizeHint() const
 {
-    return groesseFuer(kZeilenAnfangs, kBreiteHoechstens);
+    return groesseFuer(sichtbareZeilen_, kBreiteHoechstens);
 }
 
 QSize ListView::minimumSizeHint() const
@@ -111,7 +121,7 @@ QString ListView::kopierzeile(int zeile) const
     QStringList zellen;
     for (const Spaltenlage::Platz& platz : lage_.plaetze())
         if (!spalten_.Item(platz.spalte).istTrenner())
-            zellen << ::qt(posten.Text(platz.spalte)).replace('\n', ' ');
+            zellen << ::qt(ohneMarken(posten.Text(platz.spalte))).replace('\n', ' ');
     return zellen.join('\t');
 }
 
@@ -240,6 +250,7 @@ QString ListView::abgeschnittenerText(QPoint ort) const
     const std::string_view text = posten_.Item(zeile).Text(spalte);
     const QString angezeigter = Zellmaler::anzeige(text, spalten_.Item(spalte).TextAlign);
     const int platz = lage_.platz(spalte)->breite - vorDemText(zeile, spalte);
-    return zellmaler_.passt(angezeigter, platz) ? QString()
-                                                : ::qt(text).trimmed().toHtmlEscaped().replace("\n", "<br>");
+    return zellmaler_.passt(angezeigter, platz)
+               ? QString()
+               : ::qt(ohneMarken(text)).trimmed().toHtmlEscaped().replace("\n", "<br>");
 }

@@ -32,13 +32,13 @@ int Zellmaler::textbreite(const QString& text) const
 
 QString Zellmaler::anzeige(std::string_view text, TextAlign ausrichtung)
 {
-    constexpr std::string_view kLeer = " \r\n\t";
+    constexpr std::string_view kLeer = " \r\n\t\x1D";
     const std::size_t ende = text.find_last_not_of(kLeer) + 1; // npos + 1 is 0
     const std::size_t anfang = ausrichtung == TextAlign::Left ? 0 : std::min(ende, text.find_first_not_of(kLeer));
     QString zeile = QString::fromUtf8(text.data() + anfang, static_cast<qsizetype>(ende - anfang));
     zeile.replace("\r\n", " ");
     for (QChar& zeichen : zeile)
-        if (zeichen == '\n' || zeichen == '\r' || zeichen == '\t')
+        if (zeichen < ' ')
             zeichen = ' ';
     return zeile;
 }

@@ -24,8 +24,8 @@ public:
     int schrifthoehe() const { return masse_.height(); }
     int textbreite(const QString& text) const;
 
-    /// The text as a cell shows it: a line feed or tab as a blank, no blanks at the end, and at the beginning only
-    /// where they push a text to the right that stands to the left.
+    /// The text as a cell shows it: a line feed or another mark as a blank, no blanks at the end, and at the beginning
+    /// only where they push a text to the right that stands to the left.
     static QString anzeige(std::string_view text, TextAlign ausrichtung);
 
     /// True if the text needs no cutting in a cell of this width.

@@ -386,6 +386,15 @@ TEST_F(ListViewBedienung, KopiertWasZuSehenIstInDerReihenfolgeDerSpalten)
     EXPECT_EQ(liste->zeilentext(1), "0001\t\t 17 \t\toben\nunten");
 }
 
+TEST_F(ListViewBedienung, KopiertDieMarkenDerZellenNicht)
+{
+    liste->setItemText(1, 2, "\n17");
+    liste->setItemText(1, 4, "17\n\x1D");
+    EXPECT_EQ(liste->kopierzeile(1), "0001\t17\t17");
+    liste->setItemText(1, 4, "\n");
+    EXPECT_EQ(liste->kopierzeile(1), "0001\t17\t");
+}
+
 TEST_F(ListViewBedienung, EineGetippteNummerWaehltIhreZeile)
 {
     Eingabe::tippe(liste, "67");

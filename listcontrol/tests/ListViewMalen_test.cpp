@@ -53,6 +53,25 @@ TEST_F(ListViewMalen, DerKopfStehtUeberDenZeilen)
     EXPECT_EQ(liste->viewport()->height(), hoehe);
 }
 
+TEST_F(ListViewMalen, MarkenImTextSindNichtZuSehen)
+{
+    for (const TextAlign ausrichtung : {TextAlign::Left, TextAlign::Center, TextAlign::Right}) {
+        EXPECT_EQ(Zellmaler::anzeige("17\n\x1D", ausrichtung), "17");
+        EXPECT_EQ(Zellmaler::anzeige("\n", ausrichtung), "");
+    }
+    EXPECT_EQ(Zellmaler::anzeige("\n17\x1D", TextAlign::Center), "17");
+    EXPECT_EQ(Zellmaler::anzeige("oben\x1Dunten", TextAlign::Left), "oben unten");
+}
+
+TEST_F(ListViewMalen, WuenschtSichSoVieleZeilenWieVerlangt)
+{
+    legeSpaltenAn();
+    const int achtZeilen = liste->sizeHint().height();
+    liste->setzeSichtbar(20);
+    EXPECT_EQ(liste->sizeHint().height(), achtZeilen + 12 * liste->ItemHeight());
+    EXPECT_LT(liste->minimumSizeHint().height(), achtZeilen);
+}
+
 TEST_F(ListViewMalen, MaltNurSichtbareZeilenUndSpalten)
 {
     legeSpaltenAn();

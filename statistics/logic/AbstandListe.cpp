@@ -11,13 +11,8 @@ using Spalten = AbstandSpalten;
 
 constexpr std::size_t kUnmarkierteLaenge = 2;
 
-constexpr Farbe kSchwarz{0, 0, 0};
 constexpr Farbe kRot{255, 0, 0};
-constexpr Farbe kTrenner{192, 192, 192};
 constexpr Farbe kTreffer{128, 255, 255};
-constexpr Farbe kLaengster{255, 192, 128};
-constexpr Farbe kGeradeZeile{217, 252, 253};
-constexpr Farbe kUngeradeZeile{255, 255, 255};
 
 std::string zahlzelle(std::int32_t zahl, bool zaehlt, int gesucht)
 {
@@ -58,16 +53,16 @@ AbstandZellen abstandZellen(const AbstandAuswertung& auswertung, std::size_t tre
     return zellen;
 }
 
-AbstandFarbe abstandFarbe(int zeile, int spalte, std::string_view text, bool laengster)
+Farbpaar abstandFarbe(int zeile, int spalte, std::string_view text, bool laengster)
 {
-    const Farbe grund = laengster ? kLaengster : zeile % 2 == 1 ? kUngeradeZeile : kGeradeZeile;
+    const Farbe grund = laengster ? Listenfarben::Hervorgehoben : Listenfarben::zeilengrund(zeile);
     if (Spalten::istTrenner(spalte))
-        return {kTrenner, kSchwarz};
+        return {Listenfarben::Trenner, Listenfarben::Schrift};
     if (spalte == Spalten::kWochen)
         return {grund, kRot};
     if (spalte >= Spalten::kZ1 && spalte <= Spalten::kZZ && text.size() > kUnmarkierteLaenge)
         return {kTreffer, kRot};
-    return {grund, kSchwarz};
+    return {grund, Listenfarben::Schrift};
 }
 
 std::string abstandBericht(const AbstandAuswertung& auswertung, std::span<const std::size_t> reihenfolge)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "listcontrol/logic/Farbe.h"
+#include "listcontrol/logic/Listenfarben.h"
 #include "statistics/logic/AbstandAuswertung.h"
 
 #include <array>
@@ -33,15 +33,8 @@ using AbstandZellen = std::array<std::string, AbstandSpalten::kAnzahl>;
 /// where it counts; a Zusatzzahl of 0 is "-".
 AbstandZellen abstandZellen(const AbstandAuswertung& auswertung, std::size_t treffer);
 
-struct AbstandFarbe {
-    Farbe grund;
-    Farbe schrift;
-
-    bool operator==(const AbstandFarbe&) const = default;
-};
-
 /// The colours of a cell, by its place and its text; `laengster` marks the row of the longest absence.
-AbstandFarbe abstandFarbe(int zeile, int spalte, std::string_view text, bool laengster);
+Farbpaar abstandFarbe(int zeile, int spalte, std::string_view text, bool laengster);
 
 /// The report for the clipboard, with the hits in the order in which the list shows them; empty without a hit.
 std::string abstandBericht(const AbstandAuswertung& auswertung, std::span<const std::size_t> reihenfolge);

@@ -209,7 +209,7 @@ std::string frmABSTAND::bericht() const
 void frmABSTAND::CustomDraw(int row, int column, Farbe& backColor, Farbe& foreColor, bool& handled)
 {
     const bool laengster = static_cast<int>(trefferIn(row)) == ergebnis_.laengster;
-    const AbstandFarbe farbe = abstandFarbe(row, column, ListView1->ItemText(row, column), laengster);
+    const Farbpaar farbe = abstandFarbe(row, column, ListView1->ItemText(row, column), laengster);
     backColor = farbe.grund;
     foreColor = farbe.schrift;
     handled = true;

@@ -71,43 +71,43 @@ TEST(AbstandListe, KeineZusatzzahlIstEinStrich)
 constexpr Farbe kSchwarz{0, 0, 0};
 constexpr Farbe kRot{255, 0, 0};
 
-TEST(AbstandFarben, ZeilenWechselnVonNullAn)
+TEST(Farbpaarn, ZeilenWechselnVonNullAn)
 {
-    EXPECT_EQ(abstandFarbe(0, 0, "   7", false), (AbstandFarbe{{217, 252, 253}, kSchwarz}));
-    EXPECT_EQ(abstandFarbe(1, 0, "  12", false), (AbstandFarbe{{255, 255, 255}, kSchwarz}));
-    EXPECT_EQ(abstandFarbe(2, 6, "So, 29.01.1956", false), (AbstandFarbe{{217, 252, 253}, kSchwarz}));
+    EXPECT_EQ(abstandFarbe(0, 0, "   7", false), (Farbpaar{{217, 252, 253}, kSchwarz}));
+    EXPECT_EQ(abstandFarbe(1, 0, "  12", false), (Farbpaar{{255, 255, 255}, kSchwarz}));
+    EXPECT_EQ(abstandFarbe(2, 6, "So, 29.01.1956", false), (Farbpaar{{217, 252, 253}, kSchwarz}));
 }
 
-TEST(AbstandFarben, DieZeileDesLaengstenAbstandsIstOrange)
+TEST(Farbpaarn, DieZeileDesLaengstenAbstandsIstOrange)
 {
     for (const int zeile : {0, 1}) {
-        EXPECT_EQ(abstandFarbe(zeile, 0, "   7", true), (AbstandFarbe{{255, 192, 128}, kSchwarz}));
-        EXPECT_EQ(abstandFarbe(zeile, 8, "03", true), (AbstandFarbe{{255, 192, 128}, kSchwarz}));
-        EXPECT_EQ(abstandFarbe(zeile, 22, "   6", true), (AbstandFarbe{{255, 192, 128}, kRot}));
+        EXPECT_EQ(abstandFarbe(zeile, 0, "   7", true), (Farbpaar{{255, 192, 128}, kSchwarz}));
+        EXPECT_EQ(abstandFarbe(zeile, 8, "03", true), (Farbpaar{{255, 192, 128}, kSchwarz}));
+        EXPECT_EQ(abstandFarbe(zeile, 22, "   6", true), (Farbpaar{{255, 192, 128}, kRot}));
     }
 }
 
-TEST(AbstandFarben, TrennerSindGrauInJederZeile)
+TEST(Farbpaarn, TrennerSindGrauInJederZeile)
 {
     for (int spalte = 1; spalte <= 21; spalte += 2)
         for (const bool laengster : {false, true})
             EXPECT_EQ(abstandFarbe(1, spalte, "", laengster).grund, (Farbe{192, 192, 192})) << spalte;
 }
 
-TEST(AbstandFarben, EineZahlMitLeerzeichenIstEinTreffer)
+TEST(Farbpaarn, EineZahlMitLeerzeichenIstEinTreffer)
 {
     for (int spalte = 8; spalte <= 20; spalte += 2) {
-        EXPECT_EQ(abstandFarbe(0, spalte, "07 ", true), (AbstandFarbe{{128, 255, 255}, kRot})) << spalte;
-        EXPECT_EQ(abstandFarbe(0, spalte, "07", false), (AbstandFarbe{{217, 252, 253}, kSchwarz})) << spalte;
+        EXPECT_EQ(abstandFarbe(0, spalte, "07 ", true), (Farbpaar{{128, 255, 255}, kRot})) << spalte;
+        EXPECT_EQ(abstandFarbe(0, spalte, "07", false), (Farbpaar{{217, 252, 253}, kSchwarz})) << spalte;
     }
     EXPECT_EQ(abstandFarbe(0, 20, "-", false).schrift, kSchwarz);
     EXPECT_EQ(abstandFarbe(0, 2, "1956", false).schrift, kSchwarz);
 }
 
-TEST(AbstandFarben, DieWochenSindRot)
+TEST(Farbpaarn, DieWochenSindRot)
 {
-    EXPECT_EQ(abstandFarbe(0, 22, "   6", false), (AbstandFarbe{{217, 252, 253}, kRot}));
-    EXPECT_EQ(abstandFarbe(1, 22, "   6", false), (AbstandFarbe{{255, 255, 255}, kRot}));
+    EXPECT_EQ(abstandFarbe(0, 22, "   6", false), (Farbpaar{{217, 252, 253}, kRot}));
+    EXPECT_EQ(abstandFarbe(1, 22, "   6", false), (Farbpaar{{255, 255, 255}, kRot}));
 }
 
 TEST(AbstandBericht, StehtInDerReihenfolgeDerListe)
