@@ -198,12 +198,32 @@ void oeffneUndSchliesse(benchmark::State& stand)
         stand.SkipWithError("frmSTAT1 did not open and close.");
 }
 
+/// A choice on the matrix of all years and numbers until its new counts are painted.
+void waehleInMatrix(benchmark::State& stand)
+{
+    Buehne buehne(QString::fromStdString(ziehungsordner()));
+    registriereBildschirme(buehne.bildschirme);
+    starteProgramm(buehne.umgebung);
+    Bedienung bedienung(buehne);
+    bedienung.ausMenue = [&](const QString& bildschirm) { return geheAusMenue(bedienung, buehne, bildschirm); };
+    bool gelungen = bedienung.oeffne("frmZusammenHJahr").gelungen();
+    maleOffene(buehne);
+    int wahl = 0;
+    messe(stand, 0.03, [&] {
+        gelungen = bedienung.klicke(QString("optZZ(%1)").arg(++wahl % 2)).gelungen() && gelungen;
+        maleOffene(buehne);
+    });
+    if (!gelungen)
+        stand.SkipWithError("frmZusammenHJahr did not count anew.");
+}
+
 BENCHMARK(listeNebenQListWidget)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeNebenStdSort)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeUnterDenAugen)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(maleMillionen)->Arg(0)->Arg(1)->Arg(50)->Arg(100)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(menueAusDemNichts)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(oeffneUndSchliesse)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(waehleInMatrix)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 

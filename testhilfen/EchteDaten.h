@@ -15,6 +15,7 @@ struct RohZiehung {
     std::string jahrUndWoche; ///< "1955/41"
     std::array<int, 6> zahlen{};
     int zz = 0;
+    int sz = 0; ///< Superzahl; 0 before there was one
 };
 
 /// All records of a file by its fixed columns, oldest first.
@@ -24,7 +25,7 @@ inline std::vector<RohZiehung> liesRoh(const std::string& name)
     std::vector<RohZiehung> ziehungen;
     for (std::string zeile; std::getline(datei, zeile);) {
         const auto feld = [&zeile](std::size_t nr) { return std::stoi(zeile.substr(8 + 3 * nr, 2)); };
-        RohZiehung ziehung{zeile.substr(0, 4) + "/" + zeile.substr(5, 2), {}, feld(6)};
+        RohZiehung ziehung{zeile.substr(0, 4) + "/" + zeile.substr(5, 2), {}, feld(6), zeile.at(29) - '0'};
         for (std::size_t i = 0; i < 6; ++i)
             ziehung.zahlen[i] = feld(i);
         ziehungen.push_back(ziehung);

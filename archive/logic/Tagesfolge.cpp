@@ -2,10 +2,10 @@
 
 #include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
+#include "shell/logic/Zahlen.h"
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace {
 
@@ -99,6 +99,11 @@ std::string tagestext(const std::string& datum)
         return {};
     return datum.substr(kJahr, 4) + "-" + datum.substr(kMonat, 2) + "-" + datum.substr(kTag, 2) + " " +
            datum.substr(0, kWochentag);
+}
+
+std::optional<std::int32_t> jahrDesTages(std::string_view datum)
+{
+    return istDatum(datum) ? ganzzahl(datum.substr(kJahr, 4)) : std::nullopt;
 }
 
 std::string tageszeile(const ZiehungsArchiv& archiv, std::size_t nr)

@@ -80,6 +80,10 @@ TEST(Tagesfolge, DerTagIstEinTextDerSortiert)
     EXPECT_EQ(tagestext("Mi, 29.11.2000 (B)"), "2000-11-29 Mi");
     EXPECT_EQ(tagestext("Mi, 29-11-2000"), "");
     EXPECT_EQ(tagestext(""), "");
+    EXPECT_EQ(jahrDesTages("So, 09.10.1955"), 1955);
+    EXPECT_EQ(jahrDesTages("Mi, 29.11.2000 (B)"), 2000);
+    EXPECT_EQ(jahrDesTages("Mi, 29-11-2000"), std::nullopt);
+    EXPECT_EQ(jahrDesTages(""), std::nullopt);
 }
 
 TEST(Tagesfolge, DieZeileNenntAlleFelder)

@@ -3,6 +3,7 @@
 #include "statistics/logic/Zahlentabelle.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,8 +21,12 @@ struct Jahrestabelle {
 /// year before. Years outside 0..9999 are no years.
 Jahrestabelle yearTable(const ZiehungsArchiv& archiv, ZZModus zzModus, bool byDate);
 
-/// The year of each date text ("Sa, 01.01.2011"): its last four characters. A draw without a date keeps its Spieljahr.
-std::vector<std::int32_t> datumsjahre(const ZiehungsArchiv& archiv);
+/// The last of the years that a table may have, from 0 on.
+inline constexpr std::int32_t kLetztesJahr = 9999;
+
+/// The year of each draw by its date text in `datum`, `Datum` or `DatumAlle` of the archive. A draw without a date
+/// keeps its Spieljahr.
+std::vector<std::int32_t> datumsjahre(const ZiehungsArchiv& archiv, std::span<const std::string> datum);
 
 /// The page with the table, ISO 8859-1.
 std::string jahrestabellenSeite(const Jahrestabelle& jahrestabelle);

@@ -1,25 +1,10 @@
 #include "statistics/logic/Zahlentabelle.h"
 
-#include "shell/logic/Lottozahl.h"
-
 #include <algorithm>
 
 namespace {
 
-void zaehle(Zahlenzeile& zeile, std::int32_t zahl)
-{
-    if (gibtEs(zahl))
-        ++zeile.zellen[static_cast<std::size_t>(zahl - 1)].anzahl;
-}
-
-void zaehleZiehung(Zahlenzeile& zeile, const ZiehungsArchiv& archiv, std::size_t nr, ZZModus modus)
-{
-    if (zaehltGewinnzahlen(modus))
-        for (const std::int32_t zahl : archiv.gewinnzahlen(nr))
-            zaehle(zeile, zahl);
-    if (zaehltZusatzzahl(modus))
-        zaehle(zeile, archiv.zz[nr]);
-}
+constexpr std::int32_t kGroessteSuperzahl = 9;
 
 void markiere(Zahlenzeile& zeile)
 {
@@ -31,30 +16,54 @@ void markiere(Zahlenzeile& zeile)
             zelle.marke = Zellmarke::Minimum;
 }
 
-std::optional<Tabellenrekord> rekordVon(std::span<const Zahlenzeile> zeilen)
+std::optional<Tabellenrekord> rekordVon(std::span<const Zahlenzeile> zeilen, std::int32_t kleinste)
 {
     std::optional<Tabellenrekord> rekord;
     for (const Zahlenzeile& zeile : zeilen) {
-        for (std::size_t i = 0; i < zeile.zellen.size(); ++i)
-            if (!rekord || zeile.zellen[i].anzahl > rekord->anzahl)
-                rekord = {zeile.zellen[i].anzahl, static_cast<int>(i + 1), zeile.schluessel};
+        const auto hoechste = std::ranges::max_element(zeile.zellen, {}, &Zahlenzelle::anzahl);
+        if (!rekord || hoechste->anzahl > rekord->anzahl)
+            rekord = {hoechste->anzahl, static_cast<int>(hoechste - zeile.zellen.begin()) + kleinste, zeile.schluessel};
     }
     return rekord;
 }
 
 } // namespace
 
-Zahlentabelle zaehleTabelle(const ZiehungsArchiv& archiv, ZZModus modus, std::span<const std::int32_t> schluessel,
-                            std::int32_t von, std::int32_t bis)
+Zaehlspalten gewinnzahlspalten(const ZiehungsArchiv& archiv, ZZModus modus)
 {
+    Zaehlspalten zahlen{.spalten = {}, .AnzahlZiehungen = archiv.AnzahlZiehungen};
+    if (zaehltGewinnzahlen(modus))
+        zahlen.spalten = {&archiv.z1, &archiv.z2, &archiv.z3, &archiv.z4, &archiv.z5, &archiv.z6};
+    if (zaehltZusatzzahl(modus))
+        zahlen.spalten.push_back(&archiv.zz);
+    return zahlen;
+}
+
+Zaehlspalten superzahlspalte(const ZiehungsArchiv& archiv)
+{
+    return {.spalten = {&archiv.s},
+            .AnzahlZiehungen = archiv.AnzahlZiehungen,
+            .kleinste = 0,
+            .groesste = kGroessteSuperzahl};
+}
+
+Zahlentabelle zaehleTabelle(const Zaehlspalten& gezaehlt, std::span<const std::int32_t> schluessel, std::int32_t von,
+                            std::int32_t bis)
+{
+    const auto& [spalten, anzahl, kleinste, groesste] = gezaehlt;
     Zahlentabelle tabelle;
     for (std::int32_t wert = von; wert <= bis; ++wert)
-        tabelle.zeilen.push_back({wert, {}});
-    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr)
-        if (schluessel[nr] >= von && schluessel[nr] <= bis)
-            zaehleZiehung(tabelle.zeilen[static_cast<std::size_t>(schluessel[nr] - von)], archiv, nr, modus);
+        tabelle.zeilen.push_back({wert, std::vector<Zahlenzelle>(static_cast<std::size_t>(groesste - kleinste + 1))});
+    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(anzahl); ++nr) {
+        if (schluessel[nr] < von || schluessel[nr] > bis)
+            continue;
+        Zahlenzeile& zeile = tabelle.zeilen[static_cast<std::size_t>(schluessel[nr] - von)];
+        for (const ZiehungsArchiv::Spalte* spalte : spalten)
+            if (const std::int32_t zahl = (*spalte)[nr]; zahl >= kleinste && zahl <= groesste)
+                ++zeile.zellen[static_cast<std::size_t>(zahl - kleinste)].anzahl;
+    }
     for (Zahlenzeile& zeile : tabelle.zeilen)
         markiere(zeile);
-    tabelle.rekord = rekordVon(tabelle.zeilen);
+    tabelle.rekord = rekordVon(tabelle.zeilen, kleinste);
     return tabelle;
 }

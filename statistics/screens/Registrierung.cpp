@@ -10,6 +10,10 @@
 #include "statistics/screens/frmSTAT1.h"
 #include "statistics/screens/frmSWH.h"
 #include "statistics/screens/frmZuletzt.h"
+#include "statistics/screens/frmZusammenHJahr.h"
+#include "statistics/screens/frmZusammenHSW.h"
+#include "statistics/screens/frmZusammenH_SZ_Jahr.h"
+#include "statistics/screens/frmZusammenH_SZ_SW.h"
 
 void registriereStatistikbildschirme(BildschirmVerzeichnis& verzeichnis)
 {
@@ -22,4 +26,8 @@ void registriereStatistikbildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmHJAHR>("frmHJAHR");
     verzeichnis.registriere<frmGERADE>("frmGERADE");
     verzeichnis.registriere<frmLquer>("frmLquer");
+    verzeichnis.registriere<frmZusammenHSW>("frmZusammenHSW");
+    verzeichnis.registriere<frmZusammenHJahr>("frmZusammenHJahr");
+    verzeichnis.registriere<frmZusammenH_SZ_SW>("frmZusammenH_SZ_SW");
+    verzeichnis.registriere<frmZusammenH_SZ_Jahr>("frmZusammenH_SZ_Jahr");
 }

@@ -5,11 +5,11 @@
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
+#include "statistics/screens/DatumOderWoche.h"
 
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 
 namespace {
 
@@ -21,13 +21,6 @@ constexpr auto kErklaerung = "Was wird nach dem Start geschehen?\n\n"
                              "Standardbrowser geöffnet.\n\n"
                              "Legende: ZZ -> Zusatzzahl";
 
-constexpr auto kInfo =
-    "In den Statistiken zur Häufigkeit der Gewinnzahlen oder der Superzahl pro Spieljahr findet man oft kleine "
-    "Abweichungen. \n\n"
-    "Die 52. Ziehung im Spieljahr 2010 (2010/52) fand erst am 01.01.2011 statt.\n"
-    "Die 53. Ziehung im Spieljahr 1992 (1992/53) fand erst am 02.01.1993 statt.\n"
-    "Die erste Ziehung für das Jahr 2015 (2015/01) fand schon am 31.12.2014 statt.";
-
 } // namespace
 
 frmHJAHR::frmHJAHR(Umgebung& umgebung)
@@ -36,16 +29,11 @@ frmHJAHR::frmHJAHR(Umgebung& umgebung)
     Bezeichnung1 = bezeichnung("Bezeichnung1");
     Bezeichnung2 = bezeichnung("Bezeichnung2", kErklaerung);
     Bezeichnung3 = bezeichnung("Bezeichnung3");
-    lblDorW = bezeichnung("lblDorW",
-                          "Für die Berechnung das Ziehungsdatum oder die Spielwoche verwenden? (siehe HelpButton)");
-    optDatumOderWoche[0] = option("optDatumOderWoche(0)", "Ziehungsdatum");
-    optDatumOderWoche[1] = option("optDatumOderWoche(1)", "Spielwoche");
-    optDatumOderWoche[0]->setChecked(true);
+    optDatumOderWoche = new DatumOderWoche(*this);
     Befehl1 = befehl("Befehl1", "&<<");
     Befehl2 = befehl("Befehl2", qt(zzKurzbefehl(ZZModus::Ohne)));
     Befehl3 = befehl("Befehl3", qt(zzKurzbefehl(ZZModus::Mit)));
     Befehl4 = befehl("Befehl4", qt(zzKurzbefehl(ZZModus::Nur)));
-    cmdInfo = befehl("cmdInfo", "?");
     alsUeberschrift(Bezeichnung1);
     hauptaktionen({Befehl2, Befehl3, Befehl4});
 
@@ -54,10 +42,7 @@ frmHJAHR::frmHJAHR(Umgebung& umgebung)
         Bezeichnung1,
         rahmen("Rahmen1", "", spalte({Bezeichnung2})),
         Bezeichnung3,
-        rahmen("Rahmen2", "", spalte({
-            lblDorW,
-            zeile({optDatumOderWoche[0], optDatumOderWoche[1], luecke(), cmdInfo}),
-        })),
+        optDatumOderWoche,
         luecke(),
         zeile({
             rahmen("Rahmen3", "Auswertung starten", zeile({Befehl2, Befehl3, Befehl4})),
@@ -71,7 +56,6 @@ frmHJAHR::frmHJAHR(Umgebung& umgebung)
     bei(Befehl2, [this] { erzeuge(ZZModus::Ohne); });
     bei(Befehl3, [this] { erzeuge(ZZModus::Mit); });
     bei(Befehl4, [this] { erzeuge(ZZModus::Nur); });
-    bei(cmdInfo, [this] { this->umgebung().boxen.info(kInfotitel, kInfo); });
 }
 
 void frmHJAHR::beimZeigen()
@@ -93,7 +77,7 @@ void frmHJAHR::erzeuge(ZZModus modus)
         if (!lauf)
             return;
         zeigeStand();
-        ergebnis_ = yearTable(umgebung().archiv, modus, optDatumOderWoche[0]->isChecked());
+        ergebnis_ = yearTable(umgebung().archiv, modus, optDatumOderWoche->nachDatum());
         fehler = legeSeiteAb(ordner(), datei(), jahrestabellenSeite(ergebnis_));
     }
     if (fehler)

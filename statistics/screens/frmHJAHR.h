@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+class DatumOderWoche;
+
 /// Writes the counts of all numbers in each year as an HTML page and opens it.
 class frmHJAHR final : public Bildschirm {
 public:
@@ -23,7 +25,7 @@ private:
     std::string datei() const;
 
     Jahrestabelle ergebnis_;
-    std::array<QRadioButton*, 2> optDatumOderWoche{};
-    QLabel *Bezeichnung1, *Bezeichnung2, *Bezeichnung3, *lblDorW;
-    QPushButton *Befehl1, *Befehl2, *Befehl3, *Befehl4, *cmdInfo;
+    DatumOderWoche* optDatumOderWoche;
+    QLabel *Bezeichnung1, *Bezeichnung2, *Bezeichnung3;
+    QPushButton *Befehl1, *Befehl2, *Befehl3, *Befehl4;
 };

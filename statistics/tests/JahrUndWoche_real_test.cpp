@@ -154,7 +154,7 @@ INSTANTIATE_TEST_SUITE_P(AlleSpielarten, EchteJahreUndWochen,
 int jahrNachDatum(Spielart spielart, std::int32_t jahr, std::int32_t woche)
 {
     const ZiehungsArchiv archiv = ladeEchte(spielart);
-    const std::vector<std::int32_t> jahre = datumsjahre(archiv);
+    const std::vector<std::int32_t> jahre = datumsjahre(archiv, archiv.Datum);
     for (std::size_t nr = 1; nr < jahre.size(); ++nr)
         if (archiv.jjjj[nr] == jahr && archiv.sw[nr] == woche)
             return jahre[nr];

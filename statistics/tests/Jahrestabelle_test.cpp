@@ -140,13 +140,13 @@ TEST(Datumsjahre, OhneDatumGiltDasSpieljahr)
     ZiehungsArchiv archiv = archivAus(
         Samstagslotto, {{2010, 52, {1, 2, 3, 4, 5, 6}, 0}, {2012, 1, {1, 2, 3, 4, 5, 6}, 0}, {2013, 1, {}, 0}});
     archiv.Datum = {"", "Sa, 01.01.2011", ""};
-    EXPECT_THAT(datumsjahre(archiv), testing::ElementsAre(0, 2011, 2012, 2013));
+    EXPECT_THAT(datumsjahre(archiv, archiv.Datum), testing::ElementsAre(0, 2011, 2012, 2013));
 }
 
 TEST(ZaehleTabelle, NachSpielwoche)
 {
     const ZiehungsArchiv archiv = jahreswechsel();
-    const Zahlentabelle tabelle = zaehleTabelle(archiv, ZZModus::Ohne, archiv.sw, 1, 53);
+    const Zahlentabelle tabelle = zaehleTabelle(gewinnzahlspalten(archiv, ZZModus::Ohne), archiv.sw, 1, 53);
     ASSERT_EQ(tabelle.zeilen.size(), 53U);
     EXPECT_EQ(tabelle.zeilen[0].zellen[0].anzahl, 2);
     EXPECT_EQ(tabelle.zeilen[51].zellen[0].anzahl, 2);
