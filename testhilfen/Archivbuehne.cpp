@@ -1,6 +1,7 @@
 #include "testhilfen/Archivbuehne.h"
 
 #include "archive/screens/Spielartlader.h"
+#include "shell/elements/Farben.h"
 #include "testhilfen/Menueersatz.h"
 #include "testhilfen/Musterordner.h"
 
@@ -18,4 +19,13 @@ void Archivbuehne::starte()
                                              [&umgebung](std::int16_t spielart) { ladeSpielart(umgebung, spielart); });
     });
     buehne.bildschirme.oeffne("frmLSTART");
+}
+
+QStringList Archivbuehne::gelaufene(const QStringList& startknoepfe)
+{
+    QStringList namen;
+    for (const QString& name : startknoepfe)
+        if (zustand(name).contains("back=" + Farben::Gelaufen.name()))
+            namen << name;
+    return namen;
 }

@@ -11,4 +11,7 @@ protected:
 
     /// Loads the archive and shows the menu.
     virtual void starte();
+
+    /// Those of the start buttons that look like the run whose result is on the screen.
+    QStringList gelaufene(const QStringList& startknoepfe);
 };

@@ -1,5 +1,7 @@
 #include "filters/screens/Registrierung.h"
 
+#include "filters/screens/frmGROUP.h"
+#include "filters/screens/frmZusammenGROUP.h"
 #include "filters/screens/frmZusammenGU.h"
 #include "filters/screens/frmZusammenHochTief.h"
 #include "filters/screens/frmZusammenPrim.h"
@@ -8,6 +10,8 @@
 
 void registriereFilterbildschirme(BildschirmVerzeichnis& verzeichnis)
 {
+    verzeichnis.registriere<frmGROUP>("frmGROUP");
+    verzeichnis.registriere<frmZusammenGROUP>("frmZusammenGROUP");
     verzeichnis.registriere<frmZusammenGU>("frmZusammenGU");
     verzeichnis.registriere<frmZusammenHochTief>("frmZusammenHochTief");
     verzeichnis.registriere<frmZusammenRand>("frmZusammenRand");
