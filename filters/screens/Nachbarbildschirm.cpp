@@ -2,6 +2,7 @@
 
 #include "filters/logic/ZahlennachbarnListe.h"
 #include "filters/logic/ZahlennachbarnSeite.h"
+#include "listcontrol/logic/Listenfarben.h"
 #include "listcontrol/screens/ListView.h"
 #include "reports/frame/Seitenablage.h"
 #include "shell/elements/Lauf.h"
@@ -25,6 +26,7 @@ using Spalten = Nachbarspalten;
 
 constexpr auto kTitel = "Suche nach zusammenhängenden Zahlengruppen (Zahlennachbarn)";
 constexpr auto kErgebnistitel = "Suche nach Zahlennachbarn";
+constexpr int kSichtbareZeilen = 20;
 constexpr std::string_view kBreitesteGruppe = "1 Zwill. und 1 Vierl.";
 
 struct Startnamen {
@@ -109,6 +111,7 @@ void Nachbarbildschirm::baueListe()
                                  ListView1->breiteFuerZeichen(zeichen(spalte, texte_.zusammen)));
     }
     setzeGruppenbreite(texte_.zusammen ? kBreitesteGruppe : kNachbargruppen[0].gruppentext);
+    ListView1->setzeSichtbar(kSichtbareZeilen);
     ListView1->setColumnsAutoSize(true);
     ListView1->setDrawCallback(this);
 }
@@ -298,7 +301,7 @@ void Nachbarbildschirm::ExportiereHtml()
 void Nachbarbildschirm::CustomDraw(int row, int column, Farbe& backColor, Farbe& foreColor, bool& handled)
 {
     if (Spalten::istTrenner(column)) {
-        backColor = farbeAusBGR(0xC0C0C0);
+        backColor = Listenfarben::Trenner;
         handled = true;
     } else if (Spalten::istZahl(column) && !ListView1->ItemText(row, column).empty()) {
         backColor = farbeAusBGR(0xFFFF80);

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr std::array kSpiele{"Samstag", "Mittwoch", "Mittwoch (B)"};
-constexpr std::array kMuster{"2 Zwillinge", "3 Zwillinge", "1 Zwill.+1 Drill.", "2 Drillinge", "1 Zwill. +1 Vierl."};
+constexpr std::array kMuster{"2 Zwillinge", "3 Zwillinge", "1 Zwill+1 Drill.", "2 Drillinge", "1 Zwill. +1 Vierl."};
 static_assert(kMuster.size() == kNachbarmuster.size());
 
 } // namespace
