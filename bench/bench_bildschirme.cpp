@@ -177,15 +177,26 @@ void menueAusDemNichts(benchmark::State& stand)
     });
 }
 
+/// The running program with its menu in sight.
+class Programmlauf {
+public:
+    Programmlauf()
+    {
+        registriereBildschirme(buehne.bildschirme);
+        starteProgramm(buehne.umgebung);
+        maleOffene(buehne);
+        bedienung.ausMenue = [this](const QString& bildschirm) { return geheAusMenue(bedienung, buehne, bildschirm); };
+    }
+
+    Buehne buehne{QString::fromStdString(ziehungsordner())};
+    Bedienung bedienung{buehne};
+};
+
 /// The button of a tool until it is painted, then its way back until the menu is.
 void oeffneUndSchliesse(benchmark::State& stand)
 {
-    Buehne buehne(QString::fromStdString(ziehungsordner()));
-    registriereBildschirme(buehne.bildschirme);
-    starteProgramm(buehne.umgebung);
-    maleOffene(buehne);
-    Bedienung bedienung(buehne);
-    bedienung.ausMenue = [&](const QString& bildschirm) { return geheAusMenue(bedienung, buehne, bildschirm); };
+    Programmlauf lauf;
+    auto& [buehne, bedienung] = lauf;
     bool gelungen = true;
     messe(stand, 0.1, [&] {
         gelungen = bedienung.oeffne("frmSTAT1").gelungen() && gelungen;
@@ -201,11 +212,8 @@ void oeffneUndSchliesse(benchmark::State& stand)
 /// A choice on the matrix of all years and numbers until its new counts are painted.
 void waehleInMatrix(benchmark::State& stand)
 {
-    Buehne buehne(QString::fromStdString(ziehungsordner()));
-    registriereBildschirme(buehne.bildschirme);
-    starteProgramm(buehne.umgebung);
-    Bedienung bedienung(buehne);
-    bedienung.ausMenue = [&](const QString& bildschirm) { return geheAusMenue(bedienung, buehne, bildschirm); };
+    Programmlauf lauf;
+    auto& [buehne, bedienung] = lauf;
     bool gelungen = bedienung.oeffne("frmZusammenHJahr").gelungen();
     maleOffene(buehne);
     int wahl = 0;
@@ -217,6 +225,38 @@ void waehleInMatrix(benchmark::State& stand)
         stand.SkipWithError("frmZusammenHJahr did not count anew.");
 }
 
+/// All draws of two games as lines of 49 numbers, from the press to the picture.
+void alleInLinien(benchmark::State& stand)
+{
+    Programmlauf lauf;
+    bool gelungen = lauf.bedienung.oeffne("frm49").gelungen();
+    messe(stand, 0.2, [&] {
+        gelungen = lauf.bedienung.klicke("optAnz(1)").gelungen() && gelungen;
+        maleOffene(lauf.buehne);
+    });
+    if (!gelungen)
+        stand.SkipWithError("frm49 did not show all draws.");
+}
+
+/// A frame of these lines on a desktop of 1280 x 800 while they scroll by a page.
+void rolleLinien(benchmark::State& stand)
+{
+    Programmlauf lauf;
+    if (!lauf.bedienung.oeffne("frm49").gelungen() || !lauf.bedienung.klicke("optAnz(1)").gelungen()) {
+        stand.SkipWithError("frm49 did not show all draws.");
+        return;
+    }
+    Bildschirm& bildschirm = *lauf.buehne.bildschirme.geladen("frm49");
+    bildschirm.resize(1272, 764);
+    auto& liste = *bildschirm.findChild<QAbstractScrollArea*>("ListView1");
+    QScrollBar& leiste = *liste.verticalScrollBar();
+    leiste.setValue(0);
+    messe(stand, 0.016, [&] {
+        leiste.setValue(leiste.value() < leiste.maximum() ? leiste.value() + leiste.pageStep() : 0);
+        benchmark::DoNotOptimize(male(liste));
+    });
+}
+
 BENCHMARK(listeNebenQListWidget)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeNebenStdSort)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeUnterDenAugen)->UseManualTime()->Unit(benchmark::kMillisecond);
@@ -224,6 +264,8 @@ BENCHMARK(maleMillionen)->Arg(0)->Arg(1)->Arg(50)->Arg(100)->UseManualTime()->Un
 BENCHMARK(menueAusDemNichts)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(oeffneUndSchliesse)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(waehleInMatrix)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(alleInLinien)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(rolleLinien)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 

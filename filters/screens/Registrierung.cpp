@@ -2,10 +2,13 @@
 
 #include "filters/screens/frmGROUP.h"
 #include "filters/screens/frmZusammenGROUP.h"
+#include "filters/screens/frm49.h"
+#include "filters/screens/frmInFolge.h"
 #include "filters/screens/frmZusammenGU.h"
 #include "filters/screens/frmZusammenHochTief.h"
 #include "filters/screens/frmZusammenPrim.h"
 #include "filters/screens/frmZusammenRand.h"
+#include "filters/screens/frmZusammenWiederholungenInFolgeziehung.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 
 void registriereFilterbildschirme(BildschirmVerzeichnis& verzeichnis)
@@ -16,4 +19,7 @@ void registriereFilterbildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmZusammenHochTief>("frmZusammenHochTief");
     verzeichnis.registriere<frmZusammenRand>("frmZusammenRand");
     verzeichnis.registriere<frmZusammenPrim>("frmZusammenPrim");
+    verzeichnis.registriere<frmInFolge>("frmInFolge");
+    verzeichnis.registriere<frmZusammenWiederholungenInFolgeziehung>("frmZusammenWiederholungenInFolgeziehung");
+    verzeichnis.registriere<frm49>("frm49");
 }
