@@ -106,7 +106,7 @@ void frm49::baueListe()
     ListView1->AddTrenner("trenner62");
     spalte("Anz.", "Anz.", kAnzahlzeichen);
     ListView1->setDrawCallback(this);
-    ListView1->setMinimumHeight(kSichtbareZeilen * ListView1->ItemHeight());
+    ListView1->setzeSichtbar(kSichtbareZeilen);
 }
 
 void frm49::lade(std::size_t spiel)
