@@ -9,12 +9,9 @@ namespace {
 
 using namespace Liniespalten;
 
-constexpr Farbe kSchwarz{0, 0, 0};
 constexpr Farbe kWeiss{255, 255, 255};
 constexpr Farbe kBlau{0, 0, 255};
 constexpr Farbe kGelb{255, 255, 0};
-constexpr Farbe kTrennerfarbe{192, 192, 192};
-constexpr Farbe kGeradeZeile{217, 252, 253};
 
 constexpr std::int32_t kHoechsteSuperzahl = 9;
 constexpr std::size_t kGezogen = 2; ///< characters of a drawn number; one more if it is the Superzahl too
@@ -48,11 +45,10 @@ std::vector<Linienzelle> linienzellen(const Folgeziehung& ziehung, std::size_t n
 Linienfarbe linienfarbe(int zeile, int spalte, std::string_view text)
 {
     if (istTrenner(spalte))
-        return {kTrennerfarbe, kSchwarz, true};
-    if ((istZahl(spalte) || spalte == kNull) && !text.empty()) {
-        if (text.size() < kGezogen)
-            return {kGelb, kSchwarz, true};
-        return {kBlau, text.size() > kGezogen ? kGelb : kWeiss, true};
-    }
-    return {zeile % 2 == 0 ? kGeradeZeile : kWeiss, kSchwarz, false};
+        return {{Listenfarben::Trenner, Listenfarben::Schrift}, true};
+    if ((!istZahl(spalte) && spalte != kNull) || text.empty())
+        return {{Listenfarben::zeilengrund(zeile), Listenfarben::Schrift}, false};
+    if (text.size() < kGezogen)
+        return {{kGelb, Listenfarben::Schrift}, true};
+    return {{kBlau, text.size() > kGezogen ? kGelb : kWeiss}, true};
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filters/logic/Ziehungsfolge.h"
-#include "listcontrol/logic/Farbe.h"
+#include "listcontrol/logic/Listenfarben.h"
 
 #include <string_view>
 
@@ -45,8 +45,7 @@ struct Linienzelle {
 std::vector<Linienzelle> linienzellen(const Folgeziehung& ziehung, std::size_t nr);
 
 struct Linienfarbe {
-    Farbe grund;
-    Farbe schrift;
+    Farbpaar farben;
     bool bleibt = false; ///< in a chosen row too
 };
 

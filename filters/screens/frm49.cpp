@@ -182,8 +182,8 @@ void frm49::beimSchliessen()
 
 void frm49::CustomDraw(int row, int column, Farbe& backColor, Farbe& foreColor, bool& handled)
 {
-    const Linienfarbe farbe = linienfarbe(row, column, ListView1->ItemText(row, column));
-    backColor = farbe.grund;
-    foreColor = farbe.schrift;
-    handled = farbe.bleibt || !ListView1->ItemSelected(row);
+    const auto [farben, bleibt] = linienfarbe(row, column, ListView1->ItemText(row, column));
+    backColor = farben.grund;
+    foreColor = farben.schrift;
+    handled = bleibt || !ListView1->ItemSelected(row);
 }

@@ -70,21 +70,21 @@ TEST(Zahlenlinie, WasKeineZahlIstHatKeineZelle)
 
 TEST(Zahlenlinie, FaerbtGezogeneBlauUndDieSuperzahlGelb)
 {
-    EXPECT_EQ(linienfarbe(0, 14, "07").grund, kBlau);
-    EXPECT_EQ(linienfarbe(0, 14, "7").grund, kGelb);
-    EXPECT_EQ(linienfarbe(0, Liniespalten::kNull, "0").grund, kGelb);
-    EXPECT_EQ(linienfarbe(0, 14, "07 ").grund, kBlau);
-    EXPECT_EQ(linienfarbe(0, 14, "07 ").schrift, kGelb);
+    EXPECT_EQ(linienfarbe(0, 14, "07").farben.grund, kBlau);
+    EXPECT_EQ(linienfarbe(0, 14, "7").farben.grund, kGelb);
+    EXPECT_EQ(linienfarbe(0, Liniespalten::kNull, "0").farben.grund, kGelb);
+    EXPECT_EQ(linienfarbe(0, 14, "07 ").farben.grund, kBlau);
+    EXPECT_EQ(linienfarbe(0, 14, "07 ").farben.schrift, kGelb);
 }
 
 TEST(Zahlenlinie, OhneTextBleibtDieZeileGestreift)
 {
     for (const int spalte : {0, 1, 14, 100, 102}) {
-        EXPECT_EQ(linienfarbe(0, spalte, "").grund, (Farbe{217, 252, 253}));
-        EXPECT_EQ(linienfarbe(1, spalte, "").grund, (Farbe{255, 255, 255}));
+        EXPECT_EQ(linienfarbe(0, spalte, "").farben.grund, (Farbe{217, 252, 253}));
+        EXPECT_EQ(linienfarbe(1, spalte, "").farben.grund, (Farbe{255, 255, 255}));
     }
-    EXPECT_EQ(linienfarbe(0, 15, "").grund, (Farbe{192, 192, 192}));
-    EXPECT_EQ(linienfarbe(0, 0, "2000-11-29 Mi").grund, (Farbe{217, 252, 253}));
+    EXPECT_EQ(linienfarbe(0, 15, "").farben.grund, (Farbe{192, 192, 192}));
+    EXPECT_EQ(linienfarbe(0, 0, "2000-11-29 Mi").farben.grund, (Farbe{217, 252, 253}));
 }
 
 } // namespace
