@@ -1,9 +1,9 @@
 #include "filters/screens/Registrierung.h"
 
-#include "filters/screens/frmGROUP.h"
-#include "filters/screens/frmZusammenGROUP.h"
 #include "filters/screens/frm49.h"
+#include "filters/screens/frmGROUP.h"
 #include "filters/screens/frmInFolge.h"
+#include "filters/screens/frmZusammenGROUP.h"
 #include "filters/screens/frmZusammenGU.h"
 #include "filters/screens/frmZusammenHochTief.h"
 #include "filters/screens/frmZusammenPrim.h"
