@@ -302,6 +302,17 @@ void ListView::MakeSureVisible(int row)
     rolleZu(row);
 }
 
+void ListView::zeigeSpalte(int column)
+{
+    gleicheAb();
+    const Spaltenlage::Platz* platz = lage_.platz(column);
+    if (!platz)
+        return;
+    QScrollBar* leiste = horizontalScrollBar();
+    const int vonRechts = platz->x + platz->breite - viewport()->width();
+    leiste->setValue(std::clamp(leiste->value(), std::min(vonRechts, platz->x), platz->x));
+}
+
 void ListView::rolleZu(int zeile)
 {
     if (zeichnet_ && zeile >= 0)

@@ -240,6 +240,8 @@ public:
     void Refresh();
     /// Scrolls as little as possible, so that the row is in sight.
     void MakeSureVisible(int row);
+    /// The same to the side, for a column.
+    void zeigeSpalte(int column);
     void SelectAll()
     {
         setze([&] { auswahl_.SelectAll(); });

@@ -1,3 +1,4 @@
+#include "listcontrol/screens/Farbwandel.h"
 #include "listcontrol/screens/ListView.h"
 #include "listcontrol/screens/Listenkopf.h"
 #include "shell/elements/Fokusrahmen.h"
@@ -18,17 +19,6 @@ constexpr int kKaestchen = 13; ///< pixels of an edge
 constexpr int kZeilenMindestens = 3;
 constexpr int kBreiteHoechstens = 1240; ///< that the list would like; beyond it scrolls
 constexpr int kBreiteMindestens = 160;
-
-QColor qt(const Farbe& farbe)
-{
-    return {farbe.rot, farbe.gruen, farbe.blau};
-}
-
-Farbe farbe(const QColor& von)
-{
-    return {static_cast<std::uint8_t>(von.red()), static_cast<std::uint8_t>(von.green()),
-            static_cast<std::uint8_t>(von.blue())};
-}
 
 /// The text without the control characters at its ends, which mark a cell.
 std::string_view ohneMarken(std::string_view text)

@@ -63,6 +63,29 @@ TEST_F(ListViewMalen, MarkenImTextSindNichtZuSehen)
     EXPECT_EQ(Zellmaler::anzeige("oben\x1Dunten", TextAlign::Left), "oben unten");
 }
 
+TEST_F(ListViewMalen, HoltEineSpalteInsBild)
+{
+    legeSpaltenAn();
+    liste->AddColumn("weit", "Weit", TextAlign::Left, 400);
+    liste->AddColumn("rechts", "Rechts", TextAlign::Left, 50);
+    fuelle(3);
+    zeige();
+    const QScrollBar* leiste = liste->horizontalScrollBar();
+    liste->zeigeSpalte(2);
+    EXPECT_EQ(leiste->value(), 0);
+    liste->zeigeSpalte(6);
+    EXPECT_EQ(leiste->value(), 182 + 400 + 50 - liste->viewport()->width());
+    liste->zeigeSpalte(0);
+    EXPECT_EQ(leiste->value(), 0);
+    liste->zeigeSpalte(5); // wider than the list: its left edge
+    EXPECT_EQ(leiste->value(), 182);
+    liste->setColumnVisible(4, false);
+    liste->gleicheAb();
+    const int vorher = leiste->value();
+    liste->zeigeSpalte(4);
+    EXPECT_EQ(leiste->value(), vorher);
+}
+
 TEST_F(ListViewMalen, WuenschtSichSoVieleZeilenWieVerlangt)
 {
     legeSpaltenAn();

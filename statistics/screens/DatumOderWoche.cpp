@@ -15,7 +15,7 @@ constexpr auto kInfo =
     "Die 53. Ziehung im Spieljahr 1992 (1992/53) fand erst am 02.01.1993 statt.\n"
     "Die erste Ziehung für das Jahr 2015 (2015/01) fand schon am 31.12.2014 statt.";
 
-constexpr int kFragebreite = 300; ///< least, in pixels
+constexpr int kFragebreite = 320; ///< least, in pixels
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "statistics/screens/Matrixbildschirm.h"
 
 #include "archive/screens/Spielartenwahl.h"
+#include "listcontrol/screens/Farbwandel.h"
 #include "listcontrol/screens/ListView.h"
 #include "shell/elements/Farben.h"
 #include "shell/elements/Lauf.h"
@@ -13,6 +14,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -32,21 +34,10 @@ bool istTrenner(int spalte)
     return spalte % 2 == 1;
 }
 
-QColor farbe(const Farbe& von)
-{
-    return {von.rot, von.gruen, von.blau};
-}
-
-Farbe farbe(const QColor& von)
-{
-    return {static_cast<std::uint8_t>(von.red()), static_cast<std::uint8_t>(von.green()),
-            static_cast<std::uint8_t>(von.blue())};
-}
-
 /// A label in the colours that it explains.
 QLabel* alsLegende(QLabel* feld, const Farbpaar& farben)
 {
-    faerbe(feld, farbe(farben.grund), farbe(farben.schrift));
+    faerbe(feld, qt(farben.grund), qt(farben.schrift));
     feld->setMargin(Stil::kEng);
     return feld;
 }
@@ -207,20 +198,24 @@ void Matrixbildschirm::passeBreitenAn()
 void Matrixbildschirm::markiereHoechste()
 {
     const auto& tabelle = ergebnis_.tabelle;
-    int erste = -1;
+    const bool markiert = cmdMax_all->isChecked();
+    bool gezeigt = !markiert;
     for (std::size_t zeile = 0; zeile < tabelle.zeilen.size(); ++zeile) {
         const auto& zellen = tabelle.zeilen[zeile].zellen;
         for (std::size_t stelle = 0; stelle < zellen.size(); ++stelle) {
             if (zellen[stelle].anzahl != tabelle.rekord->anzahl)
                 continue;
-            ListView1->setItemText(static_cast<int>(zeile), spalteVon(stelle),
-                                   matrixzelle(zellen[stelle], cmdMax_all->isChecked()));
-            if (erste < 0)
-                erste = static_cast<int>(zeile);
+            ListView1->setItemText(static_cast<int>(zeile), spalteVon(stelle), matrixzelle(zellen[stelle], markiert));
+            if (!std::exchange(gezeigt, true))
+                zeigeZelle(static_cast<int>(zeile), spalteVon(stelle));
         }
     }
-    if (cmdMax_all->isChecked())
-        ListView1->MakeSureVisible(erste);
+}
+
+void Matrixbildschirm::zeigeZelle(int zeile, int spalte)
+{
+    ListView1->MakeSureVisible(zeile);
+    ListView1->zeigeSpalte(spalte);
 }
 
 void Matrixbildschirm::CustomDraw(int row, int column, Farbe& backColor, Farbe& foreColor, bool& handled)

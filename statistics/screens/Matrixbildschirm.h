@@ -47,6 +47,7 @@ private:
     void passeBreitenAn();
     void zeigeErsteGezaehlte();
     void markiereHoechste();
+    void zeigeZelle(int zeile, int spalte);
 
     Matrix ergebnis_;
     Matrixspalten spalten_;

@@ -96,6 +96,7 @@ protected:
         int bis = 53;
         if (zeilen != Matrixzeilen::Spielwochen) {
             std::vector<int> jahre;
+            jahre.reserve(ziehungen_.size());
             for (const GezogeneZiehung& ziehung : ziehungen_)
                 jahre.push_back(ziehung.schluessel(zeilen));
             std::tie(von, bis) = std::pair(std::ranges::min(jahre), std::ranges::max(jahre));
