@@ -24,6 +24,7 @@ constexpr int kZahlzeichen = 2;
 constexpr int kAnzahlzeichen = 4;
 constexpr int kZellrand = 1;
 constexpr int kSichtbareZeilen = 22;
+constexpr std::size_t kZeilenJeZug = 10'000; ///< of a long table; a shorter one is there at once
 
 } // namespace
 
@@ -161,17 +162,17 @@ void frm49::fuelle()
     const GeteilteFolge folge = folge_;
     const std::size_t alle = folge->ziehungen.size();
     const std::size_t anzahl = optAnz[1]->isChecked() ? alle : std::min(alle, static_cast<std::size_t>(letzte_));
-    ListView1->setRedraw(false);
     ListView1->Clear();
     ListView1->PrepareForItems(static_cast<int>(anzahl));
-    for (std::size_t nr = 1; nr <= anzahl && lauf.weiter(); ++nr) {
+    for (std::size_t nr = 1; nr <= anzahl; ++nr) {
+        if (nr % kZeilenJeZug == 0 && !lauf.zug())
+            break;
         const int zeile = ListView1->AddItem({});
         for (const Linienzelle& zelle : linienzellen(folge->ziehungen[alle - anzahl + nr - 1], nr))
             ListView1->setItemText(zeile, zelle.spalte, zelle.text);
     }
     if (ListView1->ItemCount() > 0)
         ListView1->MakeSureVisible(ListView1->ItemCount() - 1);
-    ListView1->setRedraw(true);
     lblAnz->setText("Anzahl der ausgewerteten Ziehungen: " + QString::number(ListView1->ItemCount()));
 }
 

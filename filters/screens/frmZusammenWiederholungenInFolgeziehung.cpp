@@ -21,6 +21,8 @@ constexpr int kUebersichtszeichen = 42;
 constexpr int kDetailzeilen = 24;
 constexpr int kDetailzeichen = 82;
 
+constexpr std::size_t kZeilenJeZug = 20'000; ///< so many are written at once
+
 constexpr std::array kZeilen{"Eine Gewinnzahl",   "Zwei Gewinnzahlen", "Drei Gewinnzahlen",
                              "Vier Gewinnzahlen", "Fünf Gewinnzahlen", "Sechs Gewinnzahlen"};
 
@@ -191,9 +193,9 @@ bool frmZusammenWiederholungenInFolgeziehung::schreibe(AtomareDatei& datei)
     for (const Liste* liste : {List2, List1}) {
         zeile("");
         for (std::size_t nr = 0; nr < liste->modell().ListCount(); ++nr) {
-            zeile(liste->modell().List(nr));
-            if (!lauf.weiter())
+            if (nr % kZeilenJeZug == kZeilenJeZug - 1 && !lauf.zug())
                 return false;
+            zeile(liste->modell().List(nr));
         }
     }
     return true;

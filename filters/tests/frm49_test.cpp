@@ -245,7 +245,11 @@ TEST_F(LangerLinienbildschirm, SchliessenInDerMitteGibtSpielUndArchivZurueck)
 TEST_F(Linienbildschirm, DieNeuesteZiehungIstZuSehen)
 {
     zeige();
+    bool zug = false;
+    buehne.pumpe.beiZug = [&zug] { zug = true; };
     klicke("optAnz(1)");
+    buehne.pumpe.beiZug = nullptr;
+    EXPECT_FALSE(zug); // it is there at once
     EXPECT_EQ(anzahl(), lies("lblAnz").section(' ', -1).toInt());
     EXPECT_GT(anzahl(), 5000);
     const QRect letzte = liste().zeilenrechteck(anzahl() - 1);
