@@ -6,7 +6,6 @@
 #include "shell/elements/Pfeilknopf.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
-#include "shell/logic/Format.h"
 #include "shell/logic/Meldung.h"
 #include "shell/logic/Texte.h"
 #include "tips/logic/Tippscheindatei.h"
@@ -14,10 +13,10 @@
 #include "tips/logic/Tippscheintexte.h"
 #include "tips/logic/Tippzeile.h"
 #include "tips/screens/Tippempfaenger.h"
-#include "tips/screens/Tippfarben.h"
 #include "tips/screens/Tippreihenfelder.h"
 #include "tips/screens/Tippscheinliste.h"
 #include "tips/screens/Tippscheinsicherung.h"
+#include "tips/screens/Vergleichsziehungsfelder.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -25,8 +24,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -87,23 +84,9 @@ void frmTA::baueReihen()
 
 void frmTA::baueZiehung()
 {
-    Bloecke felder;
-    for (std::size_t i = 0; i < Text13.size(); ++i) {
-        const bool superzahl = i + 1 == Text13.size();
-        Text13[i] = textfeld(QString("Text13(%1)").arg(i));
-        Text13[i]->setAlignment(Qt::AlignCenter);
-        Text13[i]->setFixedWidth(Text13[i]->fontMetrics().horizontalAdvance("00000"));
-        faerbe(Text13[i], superzahl ? Tippfarben::Superzahl : Tippfarben::Zahl, Farben::Text);
-        auto* kopf = bezeichnung(QString("lblZiehung(%1)").arg(i), superzahl ? "SZ" : QString("Z%1").arg(i + 1));
-        kopf->setAlignment(Qt::AlignCenter);
-        felder.emplace_back(eng(spalte({kopf, Text13[i]})));
-    }
-    felder.emplace_back(luecke());
-    HBildlauf1 = new QScrollBar(Qt::Horizontal, this);
-    HBildlauf1->setObjectName("HBildlauf1");
-    HBildlauf1->setFocusPolicy(Qt::StrongFocus);
+    ziehung_ = new Vergleichsziehungsfelder(umgebung().archiv, this);
     Befehl1 = befehl("Befehl1", "Tipps mit letzter Ziehung &vergleichen");
-    Rahmen2 = rahmen("Rahmen2", {}, spalte({zeile(felder), HBildlauf1, Befehl1}));
+    Rahmen2 = rahmen("Rahmen2", {}, spalte({ziehung_, Befehl1}));
 }
 
 void frmTA::baueZahlenfeld()
@@ -170,7 +153,7 @@ void frmTA::ordneAn()
 void frmTA::verbinde()
 {
     hauptaktionen({Befehl1});
-    connect(HBildlauf1, &QScrollBar::valueChanged, this, [this](int nr) { waehleZiehung(nr); });
+    ziehung_->beiWahl = [this] { folgeZiehung(); };
     connect(kombo1, &QComboBox::currentTextChanged, this,
             [this](const QString& text) { reihen_->setzeSuperzahlen(text); });
     for (std::size_t i = 0; i < Befehl4.size(); ++i)
@@ -212,36 +195,22 @@ void frmTA::showEvent(QShowEvent* ereignis)
 void frmTA::zeigeLetzteZiehung()
 {
     const ZiehungsArchiv& archiv = umgebung().archiv;
-    const auto letzte = static_cast<std::size_t>(archiv.AnzahlZiehungen);
-    const QSignalBlocker ruhe(HBildlauf1);
-    HBildlauf1->setRange(std::min(1, archiv.AnzahlZiehungen), archiv.AnzahlZiehungen);
-    HBildlauf1->setValue(archiv.AnzahlZiehungen);
-    setzeZiehung(letzte > 0 ? ziehungstexte(archiv, letzte) : Ziehungstexte{});
-    Rahmen2->setTitle("Letzte (aktuelle) Ziehung " + qt(jahrUndWoche(archiv, letzte)));
-}
-
-void frmTA::waehleZiehung(int nr)
-{
-    const ZiehungsArchiv& archiv = umgebung().archiv;
-    const auto gewaehlte = static_cast<std::size_t>(nr);
-    setzeZiehung(ziehungstexte(archiv, gewaehlte));
-    Rahmen2->setTitle((nr == archiv.AnzahlZiehungen ? "Letzte Ziehung: " : "Ziehung: ") +
-                      qt(datumVon(archiv, gewaehlte) + "    " + jahrUndWoche(archiv, gewaehlte)));
-}
-
-void frmTA::setzeZiehung(const Ziehungstexte& texte)
-{
-    for (std::size_t i = 0; i < texte.size(); ++i)
-        Text13[i]->setText(qt(texte[i]));
+    ziehung_->zeigeLetzte();
     reihen_->loescheErgebnisse();
+    Rahmen2->setTitle("Letzte (aktuelle) Ziehung " +
+                      qt(jahrUndWoche(archiv, static_cast<std::size_t>(archiv.AnzahlZiehungen))));
+}
+
+void frmTA::folgeZiehung()
+{
+    reihen_->loescheErgebnisse();
+    Rahmen2->setTitle(ziehung_->beschriftung());
 }
 
 /// False, behind a box, if the fields of the draw are no draw; the rows stay as they are.
 bool frmTA::vergleiche()
 {
-    Ziehungstexte texte;
-    std::ranges::transform(Text13, texte.begin(), [](const QLineEdit* feld) { return utf8(feld->text()); });
-    const std::optional<Vergleichsziehung> ziehung = vergleichsziehung(texte);
+    const std::optional<Vergleichsziehung> ziehung = ziehung_->ziehung();
     if (!ziehung) {
         umgebung().boxen.info("Lotto-Fehler",
                               "Felder Z1-Z6 oder SZ sind nicht vollständig, nicht sortiert oder falsch ausgefüllt. ");

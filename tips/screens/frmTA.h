@@ -1,12 +1,13 @@
 #pragma once
 
 #include "shell/elements/Bildschirm.h"
-#include "tips/logic/Tippvergleich.h"
+#include "shell/logic/Lottozahl.h"
+#include "tips/logic/Tippreihe.h"
 
 enum class Dateistand;
-class QScrollBar;
 class Tippreihenfelder;
 class Tippscheinliste;
+class Vergleichsziehungsfelder;
 
 /// A slip of up to twelve tips: entered, compared with a draw, saved, loaded, handed on to the slip printing.
 class frmTA final : public Bildschirm {
@@ -34,8 +35,7 @@ private:
     void verbinde();
 
     void zeigeLetzteZiehung();
-    void waehleZiehung(int nr);
-    void setzeZiehung(const Ziehungstexte& texte);
+    void folgeZiehung();
     bool vergleiche();
     void gibEin(int zahl);
     void leere();
@@ -49,11 +49,10 @@ private:
 
     bool ungespeichert_ = false;
     Tippreihenfelder* reihen_;
-    std::array<QLineEdit*, 7> Text13; ///< six numbers and the Superzahl of the draw
+    Vergleichsziehungsfelder* ziehung_;
     std::array<QPushButton*, kHoechsteZahl> Befehl4;
     Tippscheinliste *scheine_, *vorhandene_;
     Liste *Datei1, *Datei2;
-    QScrollBar* HBildlauf1;
     QComboBox* kombo1;
     QLineEdit* Text20;
     QGroupBox *Rahmen1, *Rahmen2, *Rahmen3, *Rahmen4;
