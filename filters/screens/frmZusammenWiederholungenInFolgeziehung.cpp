@@ -23,8 +23,16 @@ constexpr int kDetailzeichen = 82;
 
 constexpr std::size_t kZeilenJeZug = 20'000; ///< so many are written at once
 
-constexpr std::array kZeilen{"Eine Gewinnzahl",   "Zwei Gewinnzahlen", "Drei Gewinnzahlen",
-                             "Vier Gewinnzahlen", "Fünf Gewinnzahlen", "Sechs Gewinnzahlen"};
+struct Wahlzeile {
+    const char* zahlen;
+    const char* knopf;
+};
+constexpr std::array<Wahlzeile, 6> kWahlzeilen{{{"Eine Gewinnzahl", "cmdEine"},
+                                                {"Zwei Gewinnzahlen", "cmdZwei"},
+                                                {"Drei Gewinnzahlen", "cmdDrei"},
+                                                {"Vier Gewinnzahlen", "cmdVier"},
+                                                {"Fünf Gewinnzahlen", "cmdFuenf"},
+                                                {"Sechs Gewinnzahlen", "cmdSechs"}}};
 
 constexpr auto kInfo =
     "Es wird gezählt, wieviele Gewinnzahlen einer Ziehung in der vorhergehenden Ziehung schon gezogen wurden.\n\n"
@@ -86,28 +94,21 @@ frmZusammenWiederholungenInFolgeziehung::frmZusammenWiederholungenInFolgeziehung
 /// A row for each count of numbers, the most first.
 QLayout* frmZusammenWiederholungenInFolgeziehung::baueWahl()
 {
-    const std::array<std::pair<QPushButton*&, const char*>, 6> paare{{{cmdEine, "cmdEine"},
-                                                                      {cmdZwei, "cmdZwei"},
-                                                                      {cmdDrei, "cmdDrei"},
-                                                                      {cmdVier, "cmdVier"},
-                                                                      {cmdFuenf, "cmdFuenf"},
-                                                                      {cmdSechs, "cmdSechs"}}};
     Bloecke felder;
     std::vector<QPushButton*> startknoepfe;
-    for (std::size_t i = paare.size(); i-- > 0;) {
-        const int zahlen = static_cast<int>(i) + 1;
-        QPushButton* paar = befehl(paare[i].second, ">=2 mal in Folge",
-                                   hinweis("Listet die Ziehungen auf, die genau so viele Gewinnzahlen der "
-                                           "vorhergehenden Ziehung wiederholen."));
-        paare[i].first = paar;
-        cmdFolge[i] = befehl(QString("cmdFolge(%1)").arg(zahlen), zahlen == 1 ? "3 mal in Folge" : ">=3 mal in Folge",
-                             hinweis("Sucht so viele Gewinnzahlen, die in drei oder mehr Ziehungen hintereinander "
-                                     "zusammen gezogen wurden."));
-        felder.insert(felder.end(), {bezeichnung(QString("lblZahlen(%1)").arg(zahlen), kZeilen[i]), paar, cmdFolge[i]});
-        startknoepfe.insert(startknoepfe.end(), {paar, cmdFolge[i]});
-        bei(paar, [this, zahlen, paar] { waehle({.zahlen = zahlen, .knopf = paar}); });
-        bei(cmdFolge[i],
-            [this, zahlen, folge = cmdFolge[i]] { waehle({.zahlen = zahlen, .inFolge = true, .knopf = folge}); });
+    for (int zahlen = static_cast<int>(kWahlzeilen.size()); zahlen >= 1; --zahlen) {
+        const auto& [titel, name] = kWahlzeilen[static_cast<std::size_t>(zahlen) - 1];
+        QPushButton* wiederholt = befehl(name, ">=2 mal in Folge",
+                                         hinweis("Listet die Ziehungen auf, die genau so viele Gewinnzahlen der "
+                                                 "vorhergehenden Ziehung wiederholen."));
+        QPushButton* inFolge =
+            befehl(QString("cmdFolge(%1)").arg(zahlen), zahlen == 1 ? "3 mal in Folge" : ">=3 mal in Folge",
+                   hinweis("Sucht so viele Gewinnzahlen, die in drei oder mehr Ziehungen "
+                           "hintereinander zusammen gezogen wurden."));
+        felder.insert(felder.end(), {bezeichnung(QString("lblZahlen(%1)").arg(zahlen), titel), wiederholt, inFolge});
+        startknoepfe.insert(startknoepfe.end(), {wiederholt, inFolge});
+        bei(wiederholt, [this, zahlen, wiederholt] { waehle({.zahlen = zahlen, .knopf = wiederholt}); });
+        bei(inFolge, [this, zahlen, inFolge] { waehle({.zahlen = zahlen, .inFolge = true, .knopf = inFolge}); });
     }
     hauptaktionen(startknoepfe);
     return eng(raster(3, felder));

@@ -33,7 +33,5 @@ private:
     std::optional<Wahl> wahl_;           ///< stays when other games are chosen
     Spielartenwahl* frmArt;
     Liste *List1, *List2;
-    QPushButton *cmdSechs, *cmdFuenf, *cmdVier, *cmdDrei, *cmdZwei, *cmdEine;
-    std::array<QPushButton*, 6> cmdFolge{}; ///< for one number first
     QPushButton *cmdSave, *cmdInfo, *cmdInfo2, *cmdEnd;
 };

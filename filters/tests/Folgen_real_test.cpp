@@ -87,10 +87,10 @@ protected:
         }
     }
 
-    /// From draw 955 on every Saturday; those before have days of their own, which only their date texts tell.
+    /// Behind draw 955 every Saturday; those before have days of their own, which only their date texts tell.
     Tage samstag(std::size_t i) const
     {
-        if (i + 1 >= 955)
+        if (i + 1 > 955)
             return Tage(std::chrono::year(1974) / 1 / 26) + std::chrono::weeks(static_cast<int>(i + 1 - 955));
         const std::string& text = archiv_.DatumAlle[i + 1];
         return std::chrono::year(std::stoi(text.substr(10, 4))) / std::stoi(text.substr(7, 2)) /
