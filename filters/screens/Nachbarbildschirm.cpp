@@ -157,7 +157,7 @@ void Nachbarbildschirm::suche(const Nachbargruppe& gruppe)
     if (laeuft() || !darfSuchen())
         return;
     const Start& start = startVon(gruppe);
-    const bool hatFokus = start.knopf->hasFocus();
+    QWidget* const fokus = focusWidget(); // a button that is locked would lose it
     sperre(true);
     beginneSuche(gruppe);
     clsTimer uhr;
@@ -174,8 +174,8 @@ void Nachbarbildschirm::suche(const Nachbargruppe& gruppe)
     Bezeichnung12->setText(qt("Suchzeit: " + Dezimaltext(uhr.Elapsed(), 2) + " ms"));
     setzeTitel(kErgebnistitel);
     sperre(false);
-    if (hatFokus)
-        start.knopf->setFocus();
+    if (fokus)
+        fokus->setFocus();
     endetSuche();
 }
 

@@ -198,6 +198,16 @@ TEST_F(Nachbarn, SperrtSichWaehrendDerSuche)
     EXPECT_EQ(schirm("frmGROUP").focusWidget()->objectName(), "Command1");
 }
 
+TEST_F(Nachbarn, DerFokusBleibtWoErWar)
+{
+    zeige("frmGROUP");
+    klicke("Command1");
+    for (const char* feld : {"Command1", "Befehl4", "Command2", "ListView1"}) {
+        tippe(feld, "F5");
+        EXPECT_EQ(schirm("frmGROUP").focusWidget()->objectName(), feld);
+    }
+}
+
 TEST_F(Nachbarn, AbbrechenWirktVorDemNaechstenLauf)
 {
     zeige("frmGROUP");
