@@ -22,8 +22,8 @@ HtmlZeilen stil()
                       ".zahl,.zahl_n,.zahl_g,.sz {width:26px;font-size:12px;}",
                       "th,td {padding:1px 0;text-align:center;}",
                       "@media screen  {",
-                      "th {letter-spacing:0;position:sticky;top:0;box-shadow:0 0 0 2px #000005;"
-                      "background-color:#008000;color:yellow;}",
+                      "th {letter-spacing:0;position:sticky;top:0;box-shadow:0 0 0 2px #000005;}",
+                      "th {background-color:#008000;color:yellow;}",
                       "td {background-color:#fff;}",
                       ".zahl_g {background-color:#80ffff;color:red;font-weight:bold;}",
                       "}",

@@ -4,6 +4,7 @@
 #include "listcontrol/screens/ListView.h"
 #include "shell/elements/Bildschirm.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

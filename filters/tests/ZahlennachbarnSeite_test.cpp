@@ -145,6 +145,7 @@ TEST(ZahlennachbarnSeite, DieUeberschriftNenntGroesseUndErstesJahr)
 TEST(ZahlennachbarnSeite, DieDateienHeissenNachDerGruppe)
 {
     std::vector<std::string> namen;
+    namen.reserve(kNachbargruppen.size() + kNachbarmuster.size());
     for (const Nachbargruppe& gruppe : kNachbargruppen)
         namen.emplace_back(gruppe.seitendatei);
     for (const Nachbargruppe& gruppe : kNachbarmuster)

@@ -1,6 +1,8 @@
 #include "filters/screens/frmZusammenGROUP.h"
 #include "filters/tests/Nachbarbuehne.h"
 
+#include <QCheckBox>
+
 namespace {
 
 const QStringList kSuchknoepfe{"Command1",    "Befehl12",    "Befehl1",     "Befehl3",     "Befehl4",
