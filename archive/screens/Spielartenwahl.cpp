@@ -26,7 +26,7 @@ Spielartenwahl::Spielartenwahl(Bildschirm& bildschirm, const SpielartenwahlNamen
     Bloecke felder;
     for (std::size_t i = 0; i < chkArt.size(); ++i) {
         chkArt[i] = new QCheckBox(namen.spielarten[i], this);
-        chkArt[i]->setObjectName(QString("chkArt(%1)").arg(i));
+        chkArt[i]->setObjectName(QString("%1(%2)").arg(namen.kasten).arg(i));
         chkArt[i]->setChecked(true);
         connect(chkArt[i], &QCheckBox::clicked, this, [this, kasten = chkArt[i]] { wechsle(*kasten); });
         lblZ[i] = new QLabel("-", this);
@@ -82,6 +82,11 @@ void Spielartenwahl::zeigeAnzahl()
 {
     lblTipp->setText("Anzahl der auszuwertenden Ziehungen: " +
                      QString::number(bildschirm_.umgebung().archiv.AnzahlZiehungen));
+}
+
+void Spielartenwahl::zeigeAusgewertete(std::int32_t ziehungen)
+{
+    lblTipp->setText("Anzahl der ausgewerteten Ziehungen: " + QString::number(ziehungen));
 }
 
 void Spielartenwahl::wechsle(QCheckBox& kasten)

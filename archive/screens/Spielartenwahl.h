@@ -4,6 +4,7 @@
 #include "shell/elements/Rahmen.h"
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -16,6 +17,7 @@ struct SpielartenwahlNamen {
     const char* rahmen = "frmArt";
     const char* titel = "Alle Ziehungen dieser Spielarten einbeziehen:";
     std::array<const char*, 3> spielarten{"Samstagslotto", "Mittwochslotto", "Mittwochslotto (B)"};
+    const char* kasten = "chkArt"; ///< a box is named `kasten(0)` to `kasten(2)`
     const char* anzahl = "lblTipp";
 };
 
@@ -39,6 +41,8 @@ public:
     QString anzahltext() const;
     /// Writes the count of draws in the words that go with a search.
     void zeigeAnzahl();
+    /// Says how many draws the result on the screen stands on.
+    void zeigeAusgewertete(std::int32_t ziehungen);
 
     /// Without it, nothing ticked leaves the archive as it is; with it, the loader gets the empty mask too.
     bool ladeAuchOhne = false;

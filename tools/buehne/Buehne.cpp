@@ -35,6 +35,8 @@ void AufgezeichneteBoxen::info(const QString& titel, const QString& text)
     if (wiederholt)
         QThread::msleep(kBedenkzeit);
     gezeigt_.push_back({"info", titel, text, antwort({"ok", "cancel"}, "ok")});
+    if (beiInfo)
+        beiInfo();
 }
 
 bool AufgezeichneteBoxen::frage(const QString& titel, const QString& text)

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <functional>
 
 /// A box that was shown, and how it was answered.
 struct GezeigteBox {
@@ -28,6 +29,8 @@ public:
     void antworte(const QString& antwort) { antworten_.push_back(antwort); }
     /// The boxes since the last call.
     std::vector<GezeigteBox> entnehme();
+
+    std::function<void()> beiInfo; ///< what happens to the program while an info box stands
 
 private:
     QString antwort(const QStringList& passende, const QString& sonst);
