@@ -88,6 +88,6 @@ QSize Balkenlage::mindestgroesse(Balkenrichtung richtung, int balken, const QFon
 {
     constexpr QSize kFlaeche{320, 240};
     if (richtung == Balkenrichtung::Rechts)
-        return {kFlaeche.width(), balken * schrift.lineSpacing() + schrift.lineSpacing() + 2 * kRand};
+        return {kFlaeche.width(), schrift.lineSpacing() + balken * (schrift.lineSpacing() + kLuecke) + 2 * kRand};
     return {std::max(kFlaeche.width(), kSkalenbreite + balken * kSchmalsterBalken + kRand), kFlaeche.height()};
 }

@@ -14,6 +14,9 @@
 #include "statistics/screens/frmZusammenHSW.h"
 #include "statistics/screens/frmZusammenH_SZ_Jahr.h"
 #include "statistics/screens/frmZusammenH_SZ_SW.h"
+#include "statistics/screens/frmZusammenH_SZ.h"
+#include "statistics/screens/frmZusammenHaeufigkeit.h"
+#include "statistics/screens/frmZusammenZuletzt.h"
 
 void registriereStatistikbildschirme(BildschirmVerzeichnis& verzeichnis)
 {
@@ -30,4 +33,7 @@ void registriereStatistikbildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmZusammenHJahr>("frmZusammenHJahr");
     verzeichnis.registriere<frmZusammenH_SZ_SW>("frmZusammenH_SZ_SW");
     verzeichnis.registriere<frmZusammenH_SZ_Jahr>("frmZusammenH_SZ_Jahr");
+    verzeichnis.registriere<frmZusammenHaeufigkeit>("frmZusammenHaeufigkeit");
+    verzeichnis.registriere<frmZusammenZuletzt>("frmZusammenZuletzt");
+    verzeichnis.registriere<frmZusammenH_SZ>("frmZusammenH_SZ");
 }

@@ -1,7 +1,6 @@
 #include "statistics/screens/frmZuletzt.h"
 
 #include "archive/logic/Spielarttexte.h"
-#include "shell/elements/Farben.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
@@ -10,6 +9,7 @@
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Lottozahl.h"
+#include "statistics/screens/Legende.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -28,14 +28,6 @@ constexpr auto kInfo =
     "Mit dem Auswahlfeld \"Letzte Ziehung\" kann auch eine frühere Ziehung aus der Vergangenheit ausgewählt werden.\n"
     "Dann wird für diese Ziehung ermittelt, wann die Gewinnzahlen bis zum Zeitpunkt dieser Ziehung zuletzt gezogen "
     "wurden.";
-
-/// A small field in a mark's colour, for the legend.
-void alsLegende(QLabel* feld, const QColor& grund, const QColor& schrift)
-{
-    faerbe(feld, grund, schrift);
-    feld->setAlignment(Qt::AlignCenter);
-    feld->setContentsMargins(Stil::kAbstand, 0, Stil::kAbstand, 0);
-}
 
 } // namespace
 
@@ -66,8 +58,8 @@ frmZuletzt::frmZuletzt(Umgebung& umgebung)
     Befehl8 = befehl("Befehl8", "Info");
 
     alsUeberschrift(Bezeichnung5);
-    alsLegende(Bezeichnung3, kNeueste, Farben::Text);
-    alsLegende(Bezeichnung4, kAelteste, Qt::white);
+    alsLegende(Bezeichnung3, kNeueste);
+    alsLegende(Bezeichnung4, kAelteste);
     Text1->setMaxLength(20);
     Text1->setFixedWidth(Text1->fontMetrics().horizontalAdvance("0000000"));
     cmbZ->setFont(Stil::festeSchrift());
