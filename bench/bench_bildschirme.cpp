@@ -257,12 +257,35 @@ void rolleLinien(benchmark::State& stand)
     });
 }
 
+/// A choice of another tool that counts at once, from the press until its new result is painted.
+void waehleUndZaehle(benchmark::State& stand, const char* bildschirm, const char* wahl)
+{
+    Programmlauf lauf;
+    bool gelungen = lauf.bedienung.oeffne(bildschirm).gelungen();
+    maleOffene(lauf.buehne);
+    messe(stand, 0.03, [&] {
+        gelungen = lauf.bedienung.klicke(wahl).gelungen() && gelungen;
+        maleOffene(lauf.buehne);
+    });
+    if (!gelungen)
+        stand.SkipWithError("The choice could not be pressed.");
+}
+
 BENCHMARK(listeNebenQListWidget)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeNebenStdSort)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeUnterDenAugen)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(maleMillionen)->Arg(0)->Arg(1)->Arg(50)->Arg(100)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(menueAusDemNichts)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(oeffneUndSchliesse)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, haeufigkeit, "frmZusammenHaeufigkeit", "chkZusatzzahl")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, zuletztMitLaden, "frmZusammenZuletzt", "chkArt(2)")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, superzahlenMitLaden, "frmZusammenH_SZ", "Check3")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(waehleInMatrix)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(alleInLinien)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(rolleLinien)->UseManualTime()->Unit(benchmark::kMillisecond);

@@ -12,9 +12,9 @@
 #include "statistics/screens/frmZuletzt.h"
 #include "statistics/screens/frmZusammenHJahr.h"
 #include "statistics/screens/frmZusammenHSW.h"
+#include "statistics/screens/frmZusammenH_SZ.h"
 #include "statistics/screens/frmZusammenH_SZ_Jahr.h"
 #include "statistics/screens/frmZusammenH_SZ_SW.h"
-#include "statistics/screens/frmZusammenH_SZ.h"
 #include "statistics/screens/frmZusammenHaeufigkeit.h"
 #include "statistics/screens/frmZusammenZuletzt.h"
 

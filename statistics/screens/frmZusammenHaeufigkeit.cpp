@@ -43,7 +43,7 @@ frmZusammenHaeufigkeit::frmZusammenHaeufigkeit(Umgebung& umgebung)
     alsUeberschrift(lblAuswertung);
     bezeichnung114 = new Zahlenblock("bezeichnung59", "bezeichnung114", this);
     baueGraphik();
-    cmdZurueck = befehl("cmdZurueck", "&<<");
+    Command3 = befehl("Command3", ">>", hinweis("Beenden und zurück zum Auswahlmenü."));
     hauptaktionen({cmdBereich[0], cmdBereich[1]});
     enterDrueckt(cmbAnz, cmdBereich[1]);
     ordneAn();
@@ -62,7 +62,7 @@ frmZusammenHaeufigkeit::frmZusammenHaeufigkeit(Umgebung& umgebung)
         gezoomt_ = !gezoomt_;
         zeigeGraphik();
     });
-    bei(cmdZurueck, [this] { schliesse(); });
+    bei(Command3, [this] { schliesse(); });
 }
 
 void frmZusammenHaeufigkeit::baueWahl()
@@ -137,7 +137,7 @@ void frmZusammenHaeufigkeit::ordneAn()
                 zeile({cmdSort4, cmdZoom, luecke()}),
             }))),
         })),
-        zeile({luecke(), cmdZurueck}),
+        zeile({luecke(), Command3}),
     }));
     // clang-format on
 }

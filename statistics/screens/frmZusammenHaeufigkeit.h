@@ -41,5 +41,5 @@ private:
     Zahlenblock* bezeichnung114; ///< the 49 counts
     Balkenfeld* Picture1;
     QScrollArea* bildausschnitt_;
-    QPushButton *cmdSort4, *cmdZoom, *cmdZurueck;
+    QPushButton *cmdSort4, *cmdZoom, *Command3;
 };

@@ -35,7 +35,7 @@ frmZusammenZuletzt::frmZusammenZuletzt(Umgebung& umgebung)
     lstZuletztSort = liste("lstZuletztSort");
     for (Liste* liste : {lstZuletzt, lstZuletztSort})
         liste->setzeSichtbar(kListenzeilen, kListenzeichen);
-    cmdZurueck = befehl("cmdZurueck", "&<<");
+    Command3 = befehl("Command3", ">>", hinweis("Beenden und zurück zum Auswahlmenü."));
 
     // clang-format off
     setzeInhalt(spalte({
@@ -54,12 +54,12 @@ frmZusammenZuletzt::frmZusammenZuletzt(Umgebung& umgebung)
                 listenkopf("lblKopf(1)", kListenkopf), dehnbar(lstZuletztSort),
             }))),
         })),
-        zeile({luecke(), cmdZurueck}),
+        zeile({luecke(), Command3}),
     }));
     // clang-format on
 
     frmArt->beiWechsel = [this] { werteAus(); };
-    bei(cmdZurueck, [this] { schliesse(); });
+    bei(Command3, [this] { schliesse(); });
 }
 
 void frmZusammenZuletzt::werteAus()

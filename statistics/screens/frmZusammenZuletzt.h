@@ -25,5 +25,5 @@ private:
     Zahlenblock* bezeichnung114; ///< the 49 counts of draws
     Liste *lstZuletzt, *lstZuletztSort;
     std::array<QLabel*, 2> lblLegende;
-    QPushButton* cmdZurueck;
+    QPushButton* Command3;
 };

@@ -246,7 +246,7 @@ TEST_F(ZusammenHaeufigkeitsbildschirm, DreiLeereDateien)
 TEST_F(ZusammenHaeufigkeitsbildschirm, SchliessenLaesstDieZiehungenZusammenGeladen)
 {
     zeige();
-    klicke("cmdZurueck");
+    klicke("Command3");
     EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 5);
     EXPECT_TRUE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
 }

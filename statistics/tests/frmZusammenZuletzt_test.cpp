@@ -123,7 +123,7 @@ TEST_F(ZusammenZuletztbildschirm, EineEinzigeZiehung)
 TEST_F(ZusammenZuletztbildschirm, SchliessenLaesstDieZiehungenZusammenGeladen)
 {
     zeige();
-    klicke("cmdZurueck");
+    klicke("Command3");
     EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 5);
     EXPECT_TRUE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
 }
