@@ -93,9 +93,9 @@ void frmZusammenHaeufigkeit::baueGraphik()
 {
     Picture1 = new Balkenfeld(
         this, {.rahmen = "Picture1", .balken = "Balken", .richtung = Balkenrichtung::Rechts, .mitAnzahl = true});
+    Picture1->setFrameShape(QFrame::NoFrame);
     bildausschnitt_ = new QScrollArea(this);
     bildausschnitt_->setObjectName("Bildausschnitt");
-    bildausschnitt_->setFrameShape(QFrame::NoFrame);
     bildausschnitt_->setWidgetResizable(true);
     bildausschnitt_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     bildausschnitt_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -119,13 +119,10 @@ void frmZusammenHaeufigkeit::ordneAn()
         zeile({
             frmArt,
             rahmen("frmMittwoch", "Mittwochsziehungen:", spalte({optMI[0], optMI[1], luecke()})),
-            spalte({
-                rahmen("frmZusatz", "Außerdem:", spalte({chkART3, chkZusatzzahl})),
-                luecke(),
-                zeile({cmdBereich[0], cmdBereich[1], cmbAnz, lblBereich, luecke()}),
-            }),
+            rahmen("frmZusatz", "Außerdem:", spalte({chkART3, chkZusatzzahl, luecke()})),
             luecke(),
         }),
+        zeile({cmdBereich[0], cmdBereich[1], cmbAnz, lblBereich, luecke()}),
         lblAuswertung,
         dehnbar(zeile({
             dehnbar(spalte({

@@ -1,4 +1,5 @@
 #include "shell/elements/Bildschirm.h"
+#include "shell/elements/Farben.h"
 #include "statistics/tests/Statistiktest.h"
 
 #include <QFile>
