@@ -1,7 +1,8 @@
 #pragma once
 
-class QColor;
+#include "shell/elements/Farben.h"
+
 class QLabel;
 
-/// Makes the label a small field in the colour of a mark, which it explains.
-void alsLegende(QLabel* feld, const QColor& grund);
+/// Makes the label a small field in the colours of a mark, which it explains.
+void alsLegende(QLabel* feld, const QColor& grund, const QColor& schrift = Farben::Text);

@@ -59,7 +59,7 @@ frmZuletzt::frmZuletzt(Umgebung& umgebung)
 
     alsUeberschrift(Bezeichnung5);
     alsLegende(Bezeichnung3, kNeueste);
-    alsLegende(Bezeichnung4, kAelteste);
+    alsLegende(Bezeichnung4, kAelteste, Qt::white);
     Text1->setMaxLength(20);
     Text1->setFixedWidth(Text1->fontMetrics().horizontalAdvance("0000000"));
     cmbZ->setFont(Stil::festeSchrift());

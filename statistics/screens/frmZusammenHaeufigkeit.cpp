@@ -111,7 +111,7 @@ void frmZusammenHaeufigkeit::ordneAn()
 {
     auto* lblMaximum = bezeichnung("lblMaximum", "Maximum");
     auto* lblMinimum = bezeichnung("lblMinimum", "Minimum");
-    alsLegende(lblMaximum, Farben::Hoechstwert);
+    alsLegende(lblMaximum, Farben::Hoechstwert, Qt::white);
     alsLegende(lblMinimum, Farben::Markiert);
 
     // clang-format off

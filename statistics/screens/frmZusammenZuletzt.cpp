@@ -30,7 +30,7 @@ frmZusammenZuletzt::frmZusammenZuletzt(Umgebung& umgebung)
     bezeichnung114 = new Zahlenblock("bezeichnung59", "bezeichnung114", this);
     lblLegende = {bezeichnung("lblLegende(0)", "Zuletzt gezogen"), bezeichnung("lblLegende(1)", " Maximum")};
     alsLegende(lblLegende[0], kNeueste);
-    alsLegende(lblLegende[1], kAelteste);
+    alsLegende(lblLegende[1], kAelteste, Qt::white);
     lstZuletzt = liste("lstZuletzt");
     lstZuletztSort = liste("lstZuletztSort");
     for (Liste* liste : {lstZuletzt, lstZuletztSort})
