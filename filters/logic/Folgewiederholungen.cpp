@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t kStriche = 80;
+constexpr std::size_t kStriche = 68;
 constexpr std::size_t kKopfzeilen = 3;
 constexpr std::size_t kFallzeilen = 4;
 constexpr std::size_t kFusszeilen = 2;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::size_t kKopfzeilen = 2;
 constexpr std::size_t kEinzug = 22;
-constexpr std::size_t kStriche = 80;
+constexpr std::size_t kStriche = 68;
 constexpr std::string_view kHinterKopf = " --------------------------------  ";
 
 /// "3" or "3, 12, 49".

@@ -19,7 +19,7 @@ constexpr std::int32_t kMindestensInFolge = 3;
 constexpr int kUebersichtszeilen = 13;
 constexpr int kUebersichtszeichen = 42;
 constexpr int kDetailzeilen = 24;
-constexpr int kDetailzeichen = 82;
+constexpr int kDetailzeichen = 70;
 
 constexpr std::size_t kZeilenJeZug = 20'000; ///< so many are written at once
 

@@ -79,10 +79,10 @@ TEST(Wiederholungszeilen, ZeigtBeideZiehungenUndDieZahlen)
 {
     const auto gezaehlt = zaehleWiederholungen(folge({{1, 2, 3, 4, 5, 6}, {2, 5, 13, 14, 15, 16}}), "");
     EXPECT_THAT(alleZeilen(Wiederholungszeilen(gezaehlt, 2)),
-                ElementsAre(std::string(80, '-'), "Wiederholung von Zwei Zahlen in der Folgeziehung",
-                            std::string(80, '-'), " 2000  01  01 02 03 04 05 06  00    -                    Nr.     1",
+                ElementsAre(std::string(68, '-'), "Wiederholung von Zwei Zahlen in der Folgeziehung",
+                            std::string(68, '-'), " 2000  01  01 02 03 04 05 06  00    -                    Nr.     1",
                             " 2000  01  02 05 13 14 15 16  00    -                    Nr.     2",
-                            " Wiederholung der Zahlen: 02 05", "", " 1 mal aufgetreten", std::string(80, '=')));
+                            " Wiederholung der Zahlen: 02 05", "", " 1 mal aufgetreten", std::string(68, '=')));
 }
 
 TEST(Wiederholungszeilen, EineZahlStehtInDerEinzahl)
@@ -98,9 +98,9 @@ TEST(Wiederholungszeilen, OhneFallStehtEsSo)
     const auto gezaehlt = zaehleWiederholungen(folge({{1, 2, 3, 4, 5, 6}}), "");
     for (const auto& [zahlen, wort] : {std::pair(3, "Drei"), {4, "Vier"}, {5, "Fuenf"}, {6, "Sechs"}})
         EXPECT_THAT(alleZeilen(Wiederholungszeilen(gezaehlt, zahlen)),
-                    ElementsAre(std::string(80, '-'),
+                    ElementsAre(std::string(68, '-'),
                                 "Wiederholung von " + std::string(wort) + " Zahlen in der Folgeziehung",
-                                std::string(80, '-'),
+                                std::string(68, '-'),
                                 "----------------- noch nicht aufgetreten -------------------------------------  "));
 }
 

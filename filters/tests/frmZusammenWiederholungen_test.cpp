@@ -87,7 +87,7 @@ TEST_F(Folgeziehungsbildschirm, EinKaestchenErneuertAuchDieEinzelheiten)
     EXPECT_TRUE(zeilen("List1")[4].startsWith(" 1986  23  01 02 21 22 23 24  00    -   Sa, "));
     EXPECT_EQ(zeilen("List1")[5], " Wiederholung der Zahlen: 01 02");
     EXPECT_EQ(zeilen("List1")[7], " 1 mal aufgetreten");
-    EXPECT_EQ(zeilen("List1")[8], QString(80, '='));
+    EXPECT_EQ(zeilen("List1")[8], QString(68, '='));
 }
 
 TEST_F(Folgeziehungsbildschirm, JedeZeileListetIhreAnzahl)
