@@ -58,8 +58,7 @@ TEST_P(EchteSuperzahlen, StimmenMitDemTextDerDateien)
             for (int ziffer = 0; ziffer < 10; ++ziffer) {
                 const auto stelle = static_cast<std::size_t>(ziffer);
                 const auto anzahl = std::ranges::count(ziehungen, ziffer, &RohZiehung::sz);
-                const auto letzte =
-                    std::ranges::find(ziehungen.rbegin(), ziehungen.rend(), ziffer, &RohZiehung::sz);
+                const auto letzte = std::ranges::find(ziehungen.rbegin(), ziehungen.rend(), ziffer, &RohZiehung::sz);
                 EXPECT_EQ(quelle->anzahl[stelle], anzahl) << datei.name << ' ' << ziffer;
                 ASSERT_TRUE(quelle->zuletzt[stelle]) << datei.name << ' ' << ziffer;
                 EXPECT_EQ(quelle->zuletzt[stelle]->wochen, letzte - ziehungen.rbegin()) << datei.name << ' ' << ziffer;
@@ -91,8 +90,8 @@ TEST_P(EchteSuperzahlen, GemeinsamStehenSieInDerFolgeDerTage)
         const std::vector<std::string> daten = ladeEchte(datei.spielart).Datum;
         const std::vector<RohZiehung> roh = liesRoh(datei.name);
         for (std::size_t nr = datei.bit == 1 ? 3001 : 1401; nr <= roh.size(); ++nr)
-            alle.push_back({daten[nr].substr(10, 4) + daten[nr].substr(7, 2) + daten[nr].substr(4, 2),
-                            roh[nr - 1].sz, daten[nr], std::ssize(roh) - static_cast<std::ptrdiff_t>(nr)});
+            alle.push_back({daten[nr].substr(10, 4) + daten[nr].substr(7, 2) + daten[nr].substr(4, 2), roh[nr - 1].sz,
+                            daten[nr], std::ssize(roh) - static_cast<std::ptrdiff_t>(nr)});
     }
     std::ranges::sort(alle, std::greater{}, &Auftreten::tag);
     const std::vector<GemeinsameSuperzahl> ist = gemeinsameSuperzahlen(zaehle(false));
