@@ -6,12 +6,13 @@
 
 Einzellader::Einzellader(Umgebung& umgebung) : umgebung_(umgebung), gefunden_(umgebung.archiv.Spielart) {}
 
-void Einzellader::lade(std::int16_t spielart)
+void Einzellader::lade(std::int16_t spielart, FehlendeDatei fehlende)
 {
     fremd_ = true;
     umgebung_.archiv.Spielart = spielart;
-    LadeZiehungsdatei(umgebung_.archiv, [this](const std::string& text) {
-        umgebung_.boxen.info(kProgrammtitel, QString::fromStdString(text));
+    LadeZiehungsdatei(umgebung_.archiv, [this, fehlende](const std::string& text) {
+        if (fehlende == FehlendeDatei::Nennen)
+            umgebung_.boxen.info(kProgrammtitel, QString::fromStdString(text));
         return false;
     });
 }

@@ -10,9 +10,11 @@ class Einzellader {
 public:
     explicit Einzellader(Umgebung& umgebung);
 
-    /// Loads the file of `spielart` (1..3) into the archive. If it is missing, one box names it and the archive counts
-    /// no draws.
-    void lade(std::int16_t spielart);
+    enum class FehlendeDatei { Nennen, Verschweigen };
+
+    /// Loads the file of `spielart` (1..3) into the archive. If it is missing, one box names it, unless it is to be
+    /// kept quiet, and the archive counts no draws.
+    void lade(std::int16_t spielart, FehlendeDatei fehlende = FehlendeDatei::Nennen);
 
     /// Loads the game that was active at first, if another one was loaded since.
     void gibZurueck();

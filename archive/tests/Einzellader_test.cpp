@@ -48,6 +48,15 @@ TEST_F(ElementEinzellader, MeldetEineFehlendeDateiEinmal)
     EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 2);
 }
 
+TEST_F(ElementEinzellader, EineSchonGenannteDateiBleibtVerschwiegen)
+{
+    QFile::remove(ordner.filePath("MALOTTO.DAT"));
+    Einzellader lader(buehne.umgebung);
+    lader.lade(Mittwochslotto, Einzellader::FehlendeDatei::Verschweigen);
+    EXPECT_TRUE(boxen().isEmpty());
+    EXPECT_EQ(buehne.archiv.AnzahlZiehungen, 0);
+}
+
 TEST_F(ElementEinzellader, OhneEigenesLadenBleibtDasArchivWieEsIst)
 {
     buehne.archiv.AnzahlZiehungen = 1;

@@ -103,6 +103,7 @@ struct Umgebung {
     Zufall& zufall;
     Pumpe& pumpe;
     std::optional<QRect> schreibtisch = {};         ///< the desktop, if it is another one than the screen shows
+    std::optional<QString> desktopordner = {};      ///< the user's desktop folder, if it is not the system's
     BildschirmVerzeichnis* bildschirme = nullptr;   ///< set once the screens are registered
     Menue* menue = nullptr;                         ///< set while the selection menu exists
     std::chrono::milliseconds animationsdauer{400}; ///< of one play of numbers; 0 shows none

@@ -5,10 +5,16 @@
 #include "tips/screens/GLottoneu.h"
 #include "tips/screens/frmKugel1.h"
 #include "tips/screens/frmSSA.h"
+#include "tips/screens/frmLottoneu.h"
+#include "tips/screens/frmLottoneu_alt_mitZZ.h"
 #include "tips/screens/frmTA.h"
+#include "tips/screens/frmZusammenLottoneu.h"
 
 void registriereTippbildschirme(BildschirmVerzeichnis& verzeichnis)
 {
+    verzeichnis.registriere<frmLottoneu>("frmLottoneu");
+    verzeichnis.registriere<frmLottoneu_alt_mitZZ>("frmLottoneu_alt_mitZZ");
+    verzeichnis.registriere<frmZusammenLottoneu>("frmZusammenLottoneu");
     verzeichnis.registriere<GLottoneu>("GLottoneu");
     verzeichnis.registriere<GLOTTO>("GLOTTO");
     verzeichnis.registriere<frmKugel1>("frmKugel1");

@@ -1,6 +1,6 @@
-#include "testhilfen/EchteDaten.h"
 #include "tips/rules/Gewinntexte.h"
 #include "tips/rules/Trefferbilanz.h"
+#include "tips/tests/EchteGewinne.h"
 
 #include <algorithm>
 #include <iterator>
@@ -9,57 +9,13 @@
 
 namespace {
 
-/// The column behind the Zusatzzahl of each record.
-std::vector<int> superzahlen(const std::string& name)
-{
-    std::ifstream datei(kEchteDaten / name);
-    std::vector<int> werte;
-    for (std::string zeile; std::getline(datei, zeile);)
-        werte.push_back(std::stoi(zeile.substr(29)));
-    return werte;
-}
-
-class EchteGewinne : public EchteDaten {
-protected:
-    void SetUp() override
-    {
-        EchteDaten::SetUp();
-        if (!IsSkipped())
-            sz_ = superzahlen(std::string(ziehungsdateiName(GetParam())));
-    }
-
-    bool hatSuperzahl(std::size_t i) const { return i + 1 >= (GetParam() == Samstagslotto ? 1887U : 497U); }
-    static std::int32_t nummer(std::size_t i) { return static_cast<std::int32_t>(i + 1); }
-
-    /// The label by the words of the plans, from sets of the raw records; empty without a class.
-    std::string label(std::size_t i, const std::array<int, 6>& tip, int tipSZ, bool alt) const
-    {
-        static const std::vector<std::string> namen{"", "", "Zweier", "Dreier", "Vierer", "Fünfer", "Sechser"};
-        const std::set<int> gezogen(roh_[i].zahlen.begin(), roh_[i].zahlen.end());
-        const auto treffer = std::count_if(tip.begin(), tip.end(), [&](int zahl) { return gezogen.contains(zahl); });
-        const bool sz = hatSuperzahl(i) && sz_[i] == tipSZ;
-        const bool zz = std::find(tip.begin(), tip.end(), roh_[i].zz) != tip.end();
-        const bool b = GetParam() == MittwochslottoB;
-        const std::string name = namen[static_cast<std::size_t>(treffer)];
-        if (!alt)
-            return treffer >= 3 || (treffer == 2 && sz) ? name + (sz ? "+SZ" : "") : "";
-        if (treffer < 3)
-            return "";
-        if (treffer == 6)
-            return name + (sz && !b ? "+SZ" : "");
-        return name + (zz && !(b && treffer == 4) ? "+ZZ" : "");
-    }
-
-    std::vector<int> sz_;
-};
-
 TEST_P(EchteGewinne, JedeZiehungAlsIhrEigenerTipp)
 {
     for (std::size_t i = 0; i < roh_.size(); ++i) {
         const Kombination tip = roh_[i].zahlen;
         ASSERT_EQ(countTreffer(archiv_, tip, nummer(i)), 6);
         for (int tipSZ = 0; tipSZ <= 9; ++tipSZ) {
-            const bool sz = hatSuperzahl(i) && sz_[i] == tipSZ;
+            const bool sz = spiel_.hatSuperzahl(i) && spiel_.sz[i] == tipSZ;
             EXPECT_EQ(gewinntextNeu(classifyNeu(archiv_, 6, nummer(i), tipSZ, GetParam())),
                       sz ? "Sechser+SZ" : "Sechser");
             EXPECT_EQ(gewinntextAlt(classifyAlt(archiv_, 6, nummer(i), tip, tipSZ, GetParam())),
@@ -78,10 +34,10 @@ TEST_P(EchteGewinne, VieleTippsGegenAlleZiehungen)
         std::map<std::string, int> erwartet;
         for (std::size_t i = 0; i < roh_.size(); ++i) {
             const Tippbewertung bewertung = bewerteNeu(archiv_, nummer(i), tip, tipSZ, GetParam());
-            const std::string soll = label(i, roh_[t].zahlen, tipSZ, false);
+            const std::string soll = spiel_.label(i, roh_[t].zahlen, tipSZ, false);
             ASSERT_EQ(gewinntextNeu(bewertung.klasse), soll) << roh_[i].jahrUndWoche;
             ASSERT_EQ(gewinntextAlt(bewerteAlt(archiv_, nummer(i), tip, tipSZ, GetParam()).klasse),
-                      label(i, roh_[t].zahlen, tipSZ, true))
+                      spiel_.label(i, roh_[t].zahlen, tipSZ, true))
                 << roh_[i].jahrUndWoche;
             neu.zaehle(bewertung);
             ++erwartet[soll];

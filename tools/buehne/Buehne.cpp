@@ -99,6 +99,7 @@ Buehne::Buehne(const QString& verzeichnis)
 {
     archiv.ProgrammVerzeichnis = (QDir(verzeichnis).absolutePath() + QDir::separator()).toStdString();
     umgebung.animationsdauer = {};
+    umgebung.desktopordner = QDir(verzeichnis).absoluteFilePath("Desktop");
     if (QGuiApplication::platformName() == "offscreen") // whose screen is smaller than any desktop
         umgebung.schreibtisch = QRect(0, 0, 1280, 800);
 }
