@@ -271,6 +271,24 @@ void waehleUndZaehle(benchmark::State& stand, const char* bildschirm, const char
         stand.SkipWithError("The choice could not be pressed.");
 }
 
+/// A press of an arrow of the Superzahl until all rows are in the list and the screen is painted. The argument is the
+/// screen: 0 shows the wins, 1 all draws of a game, 2 the wins of three games, whose files are read anew.
+void zeitreise(benchmark::State& stand)
+{
+    Programmlauf lauf;
+    const QString bildschirm = stand.range(0) == 2 ? "frmZusammenLottoneu" : "frmLottoneu";
+    bool gelungen = lauf.bedienung.oeffne(bildschirm).gelungen() && lauf.bedienung.klicke("Command4").gelungen();
+    if (stand.range(0) == 1)
+        gelungen = lauf.bedienung.klicke("Option3(0)").gelungen() && gelungen;
+    maleOffene(lauf.buehne);
+    messe(stand, 0.03, [&] {
+        gelungen = lauf.bedienung.klicke("Command2").gelungen() && gelungen;
+        maleOffene(lauf.buehne);
+    });
+    if (!gelungen)
+        stand.SkipWithError("The time travel could not be worked.");
+}
+
 BENCHMARK(listeNebenQListWidget)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeNebenStdSort)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listeUnterDenAugen)->UseManualTime()->Unit(benchmark::kMillisecond);
@@ -287,6 +305,7 @@ BENCHMARK_CAPTURE(waehleUndZaehle, superzahlenMitLaden, "frmZusammenH_SZ", "Chec
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(waehleInMatrix)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(zeitreise)->DenseRange(0, 2)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(alleInLinien)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(rolleLinien)->UseManualTime()->Unit(benchmark::kMillisecond);
 

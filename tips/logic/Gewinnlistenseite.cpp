@@ -45,6 +45,7 @@ constexpr std::array<Klassenzeile, kGewinnklassen> kKlassen{{
 HtmlZeilen listenStil(const Breiten& breite)
 {
     return {"#liste table, .ts, .gt {border-collapse:separate;border-spacing:1px;background-color:#c0c0c0;}",
+            "#liste table {width:100%;}",
             "#liste th {position:sticky;top:0;padding:4px 6px;background-color:#008000;color:white;letter-spacing:0;}",
             "#liste td {padding:2px 6px;text-align:center;background-color:#fff;white-space:nowrap;}",
             "#liste td:nth-child(1) {width:" + std::string(breite.ersteSpalte) + ";}",

@@ -4,6 +4,7 @@
 #include "shell/elements/Bildschirm.h"
 #include "shell/elements/SpezialOrdner.h"
 #include "shell/elements/Utf8.h"
+#include "shell/logic/Dateien.h"
 #include "tips/logic/Zeitreiseausgabe.h"
 #include "tips/screens/Felder.h"
 
@@ -65,8 +66,9 @@ void Desktopausgabe::sperreHtml()
 void Desktopausgabe::schreibe(std::string_view name, const std::string& bytes)
 {
     const QDir ordner = desktop(bildschirm_.umgebung());
-    if (const auto fehler = legeSeiteAb(utf8(ordner.absolutePath()), name, bytes)) {
-        bildschirm_.umgebung().boxen.info(fehler->titel.empty() ? kProgrammtitel : qt(fehler->titel), qt(fehler->text));
+    const std::filesystem::path pfad = utf8(ordner.absolutePath());
+    if (!macheSeitenordner(pfad) || !schreibeDatei(pfad / name, bytes)) {
+        bildschirm_.umgebung().boxen.info(kProgrammtitel, qt(schreibfehler().text));
         return;
     }
     const QString datei = ordner.absoluteFilePath(qt(name));

@@ -52,6 +52,7 @@ Markenwahl::Markenwahl(std::initializer_list<Marke> marken, QWidget* eltern) : Q
         auto* marke = benannt(new Klickfeld(this), eine.marke);
         auto* option = benannt(new Optionstext(eine.kurztext, this), eine.option);
         auto* erklaerung = benannt(new Klickfeld(eine.text, this), eine.erklaerung);
+        alsUeberschrift(marke);
         for (QWidget* feld : std::initializer_list<QWidget*>{marke, option, erklaerung})
             feld->setToolTip(eine.hinweis);
         marke->beiKlick = erklaerung->beiKlick = [option] { option->click(); };

@@ -18,6 +18,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kLeereZeilen = 11; ///< of a list that the user has cleared
@@ -91,7 +93,7 @@ void Zeitreisebildschirm::verbinde()
     Rahmen6->beiKlick = [this] { Rahmen4->hide(); };
     Rahmen6->beiAenderung = [this] { erneuere(); };
     Rahmen6->beiSuperzahl = [this] {
-        if (frage().istVollstaendig())
+        if (Rahmen6->zahlen().size() == Kombination{}.size())
             erneuere();
     };
     Rahmen6->beiLetzterZiehung = [this] { nimmLetzteZiehung(); };
@@ -166,7 +168,8 @@ void Zeitreisebildschirm::erneuere()
         uhr_.ResetTimer();
         ergebnis_ = werteAus(gefragt);
         uhr_.StopTimer();
-        Bezeichnung8->setText("Suchzeit: " + qt(Dezimaltext(uhr_.Elapsed(), 2)) + " ms");
+        if (!ergebnis_.zahlen.empty())
+            Bezeichnung8->setText("Suchzeit: " + qt(Dezimaltext(uhr_.Elapsed(), 2)) + " ms");
     }
     zeige();
 }
@@ -188,13 +191,17 @@ void Zeitreisebildschirm::zeige()
     zeigeUeberschriften();
 }
 
+QString Zeitreisebildschirm::ziehungstext() const
+{
+    return qt(form_ == Zeitreiseform::Zusammen ? ziehungszeile(ergebnis_) : ziehungszeile(umgebung().archiv));
+}
+
 void Zeitreisebildschirm::zeigeUeberschriften()
 {
     const std::vector<std::int16_t> spiele = spielarten();
     const bool seit1955 = spiele.empty() || std::ranges::any_of(spiele, istSamstag);
     Bezeichnung20->setText(qt(spielartenGross(spiele)));
-    Bezeichnung1->setText(
-        qt(form_ == Zeitreiseform::Zusammen ? ziehungszeile(ergebnis_) : ziehungszeile(umgebung().archiv)));
+    Bezeichnung1->setText(ziehungstext());
     Rahmen2->setTitle(qt(haeufigkeitstitel(form_, seit1955)));
     setzeGrundtitel(
         qt(ergebnis_.spielarten.empty() ? zeitreisetitel(form_, kombination(), seit1955) : zeitreisetitel(ergebnis_)));
@@ -226,6 +233,7 @@ void Zeitreisebildschirm::nimmLetzteZiehung()
 void Zeitreisebildschirm::uebernimm(const Tippfeld7x7& tipp, std::optional<int> superzahl)
 {
     uebergeben_ = true;
+    Befehl2->setText("&Zurück");
     modus_->waehle(0);
     Rahmen6->zeige(tipp);
     Rahmen6->zeigeSuperzahl(superzahl.value_or(Rahmen6->superzahl()));
@@ -249,8 +257,8 @@ void Zeitreisebildschirm::changeEvent(QEvent* ereignis)
 {
     Bildschirm::changeEvent(ereignis);
     // The menu may have loaded another game while this screen stayed open.
-    if (ereignis->type() == QEvent::ActivationChange && isActiveWindow() && istVeraltet())
-        erneuere();
+    if (ereignis->type() == QEvent::ActivationChange && isActiveWindow() && Bezeichnung1->text() != ziehungstext())
+        beimZeigen();
 }
 
 QString Zeitreisebildschirm::info() const

@@ -59,10 +59,7 @@ protected:
 
     Tippwahl& tippwahl() const { return *Rahmen6; }
     Zeitreiseform form() const { return form_; }
-    bool kombination() const;
     Desktopausgabe* ausgabe() const { return ausgabe_.get(); }
-
-    QPushButton* Befehl2;
 
     void changeEvent(QEvent* ereignis) override;
 
@@ -74,7 +71,9 @@ private:
     void nimmLetzteZiehung();
     void leereListe();
     bool istVeraltet() const;
+    QString ziehungstext() const;
     Zeitreisefrage frage() const;
+    bool kombination() const;
 
     Zeitreiseform form_;
     Zeitreise ergebnis_;
@@ -89,5 +88,5 @@ private:
     Zeitreisezaehler* Rahmen1;
     Markenwahl* modus_;
     QLabel *Bezeichnung1, *Bezeichnung8, *Bezeichnung20, *Label2;
-    QPushButton *Befehl13, *Befehl19;
+    QPushButton *Befehl2, *Befehl13, *Befehl19;
 };

@@ -8,6 +8,8 @@
 
 namespace {
 
+const QString kPopupknopf = "Befehl1";
+
 /// Name of the menu's button for a screen; empty if it has none.
 QString menueknopf(const std::vector<std::vector<Menuegruppe>>& tafel, const QString& ziel)
 {
@@ -40,9 +42,12 @@ Antwort geheAusMenue(Bedienung& bedienung, const Buehne& buehne, const QString& 
     const bool gewoehnlich = !knopf.isEmpty() || !eintrag.isEmpty();
     const bool zusammen = static_cast<QWidget*>(bedienung.finde("frameRollo"))->isVisible();
 
-    if (gewoehnlich && zusammen)
+    if (gewoehnlich && zusammen) {
         bedienung.klicke(kOptionen.at(static_cast<std::size_t>(buehne.archiv.Spielart)));
-    else if (!rolloknopf.isEmpty() && !zusammen)
+        // A combined tool may leave a game behind that the other one is not made for.
+        if (!static_cast<QWidget*>(bedienung.finde(knopf.isEmpty() ? kPopupknopf : knopf))->isEnabled())
+            bedienung.klicke(kOptionen.front());
+    } else if (!rolloknopf.isEmpty() && !zusammen)
         bedienung.klicke("Option4");
 
     if (!knopf.isEmpty())
@@ -51,6 +56,6 @@ Antwort geheAusMenue(Bedienung& bedienung, const Buehne& buehne, const QString& 
         return bedienung.klicke(rolloknopf);
     if (eintrag.isEmpty())
         return {};
-    const Antwort popup = bedienung.klicke("Befehl1");
+    const Antwort popup = bedienung.klicke(kPopupknopf);
     return popup.gelungen() ? bedienung.klicke(eintrag) : popup;
 }
