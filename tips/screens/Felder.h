@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QFrame>
+#include "shell/elements/Rahmen.h"
+
 #include <QLabel>
 
 #include <functional>
@@ -10,6 +11,13 @@ template <class Feld> Feld* benannt(Feld* feld, const QString& name)
 {
     feld->setObjectName(name);
     return feld;
+}
+
+/// Another title of a card that had one before: its content keeps its place.
+inline void wechsleTitel(Rahmen& rahmen, const QString& titel)
+{
+    rahmen.setTitle(titel);
+    rahmen.setContentsMargins(0, 0, 0, 0);
 }
 
 /// A label that can be clicked.

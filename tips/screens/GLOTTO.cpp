@@ -9,6 +9,7 @@
 #include "shell/elements/Zahlenblock.h"
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Format.h"
+#include "tips/screens/frmLottoneu.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -149,7 +150,9 @@ void GLOTTO::zeigeListen(Folge folge)
 
 void GLOTTO::werteAus(std::size_t tip)
 {
-    static_cast<void>(tip);
+    umgebung().klang.SpieleKlang(1);
+    umgebung().bildschirme->lade<frmLottoneu>(kZeitreise).uebernimm(felder_[tip]->modell());
+    umgebung().bildschirme->oeffne(kZeitreise);
 }
 
 void GLOTTO::drucke()

@@ -148,7 +148,7 @@ void Tippwahl::zeigeSuperzahl(int superzahl)
 
 void Tippwahl::stelleModus(bool kombination)
 {
-    setTitle(kombination ? "Kombination auswählen" : "6 Zahlen auswählen");
+    wechsleTitel(*this, kombination ? "Kombination auswählen" : "6 Zahlen auswählen");
     Label3->setText(kombination ? "Ausgabe: Ausgewählte Kombination" : "Ausgabe: Ausgewählte Tippreihe");
     for (QWidget* feld : std::initializer_list<QWidget*>{Label5, lblSZ, Command1, Command2, Command4, Befehl3})
         feld->setVisible(!kombination);

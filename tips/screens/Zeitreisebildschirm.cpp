@@ -7,6 +7,7 @@
 #include "shell/logic/Format.h"
 #include "tips/logic/Zeitreisetexte.h"
 #include "tips/screens/Desktopausgabe.h"
+#include "tips/screens/Felder.h"
 #include "tips/screens/Markenwahl.h"
 #include "tips/screens/Positionstafel.h"
 #include "tips/screens/Tippwahl.h"
@@ -202,7 +203,7 @@ void Zeitreisebildschirm::zeigeUeberschriften()
     const bool seit1955 = spiele.empty() || std::ranges::any_of(spiele, istSamstag);
     Bezeichnung20->setText(qt(spielartenGross(spiele)));
     Bezeichnung1->setText(ziehungstext());
-    Rahmen2->setTitle(qt(haeufigkeitstitel(form_, seit1955)));
+    wechsleTitel(*Rahmen2, qt(haeufigkeitstitel(form_, seit1955)));
     setzeGrundtitel(
         qt(ergebnis_.spielarten.empty() ? zeitreisetitel(form_, kombination(), seit1955) : zeitreisetitel(ergebnis_)));
     setzeTitel(grundtitel());

@@ -104,6 +104,6 @@ void Zeitreisezaehler::zeige(const Zeitreise& zeitreise)
 
 void Zeitreisezaehler::stelleModus(bool kombination)
 {
-    setTitle(kombination ? "Ausgabe: Ausgewählte Kombination" : "Ausgabe: Ausgewählte Tippreihe");
+    wechsleTitel(*this, kombination ? "Ausgabe: Ausgewählte Kombination" : "Ausgabe: Ausgewählte Tippreihe");
     Label1->setText(kombination ? "Häufigkeit der Kombination:" : "Anzahl der Gewinne:");
 }

@@ -12,6 +12,7 @@ frmLottoneu_alt_mitZZ::frmLottoneu_alt_mitZZ(Umgebung& umgebung)
     Label6 = bezeichnung("Label6", "AUSWERTUNG NACH DEM ALTEN GEWINNSCHEMA MIT ZUSATZZAHL (GALT BIS  04.05.2013)");
     Label8 = bezeichnung("Label8", "ALTE GEWINNKLASSEN!");
     Command3 = befehl("Command3", "&Info");
+    Command3->setToolTip("Wann zählt die Superzahl?");
     alsUeberschrift(Label8);
     tippwahl().ohneInfokuerzel();
     ordneAn({Block(zeile({Label6, luecke(), Label8}))}, {}, {Command3});

@@ -1,3 +1,4 @@
+#include "shell/elements/Bildschirm.h"
 #include "tips/tests/Tipptest.h"
 
 #include <QStringList>
@@ -69,6 +70,26 @@ TEST_F(Lottozahlengenerator, VorDemErstenTippGibtEsNichtsZuZeigen)
     for (const char* knopf : {"Befehl3", "Befehl5", "Befehl6", "Befehl7", "cmdTipp(0)"})
         EXPECT_FALSE(bedienbar(knopf)) << knopf;
     EXPECT_TRUE(markierte("Bezeichnung1").isEmpty());
+}
+
+TEST_F(Lottozahlengenerator, DerGelbeRandGibtDenTippZurAuswertung)
+{
+    oeffneUndTippe();
+    const QList<int> tipp = markierte("Bezeichnung3");
+    klicke("cmdTipp(2)");
+    ASSERT_TRUE(bedienung.benutze("frmLottoneu").gelungen());
+    EXPECT_EQ(markierte("Bezeichnung6"), tipp);
+    EXPECT_TRUE(lies("Label2").startsWith("Ziehungen mit Gewinnen: "));
+    const QList<int> anderer = [this] {
+        bedienung.benutze("GLOTTO");
+        klicke("cmdTipp(0)");
+        return markierte("Bezeichnung1");
+    }();
+    bedienung.benutze("frmLottoneu");
+    EXPECT_EQ(markierte("Bezeichnung6"), anderer);
+    schliesse();
+    EXPECT_TRUE(buehne.bildschirme.geladen("GLOTTO")->isVisible());
+    EXPECT_FALSE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
 }
 
 } // namespace

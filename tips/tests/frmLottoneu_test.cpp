@@ -192,6 +192,25 @@ TEST_F(Zeitreisebild, DerModusWechseltTexteUndLoescht)
         EXPECT_TRUE(sichtbar(name)) << name;
 }
 
+TEST_F(Zeitreisebild, EinAnderesSpielOderEinAndererModusVerschiebtNichts)
+{
+    const auto orte = [this] {
+        QList<QPoint> alle;
+        for (const char* name : {"Bezeichnung6(1)", "Text1", "txtNull"}) {
+            auto* feld = qobject_cast<QWidget*>(bedienung.finde(name));
+            QCoreApplication::processEvents();
+            alle << feld->mapTo(feld->window(), QPoint(0, 0));
+        }
+        return alle;
+    };
+    const QList<QPoint> vorher = orte();
+    klicke("Option2");
+    EXPECT_EQ(orte(), vorher);
+    buehne.umgebung.menue->waehleSpielart(Mittwochslotto);
+    bildschirm().beimZeigen();
+    EXPECT_EQ(orte(), vorher);
+}
+
 TEST_F(Zeitreisebild, SuchtNachJedemKlick)
 {
     klicke("Option2");
