@@ -10,12 +10,10 @@
 #include <QPainter>
 
 namespace {
-constexpr int kZellseite = 30;
-constexpr int kSteg = 4;
-constexpr int kRahmen = kSteg - 1; ///< of the focus around a cell, clear of the next one
+constexpr int kRahmen = Tippfeld7x7View::kSteg - 1; ///< of the focus around a cell, clear of the next one
 } // namespace
 
-Tippfeld7x7View::Tippfeld7x7View(const QString& name, Art art, QWidget* eltern) : QWidget(eltern), art_(art)
+Tippfeld7x7View::Tippfeld7x7View(const QString& name, Art art, QWidget* eltern) : QWidget(eltern)
 {
     auto* gitter = new QGridLayout(this);
     gitter->setSpacing(kSteg);
@@ -23,14 +21,19 @@ Tippfeld7x7View::Tippfeld7x7View(const QString& name, Art art, QWidget* eltern) 
     for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
         auto* zelle = new Zelle(QString("%1(%2)").arg(name).arg(zahl), QString::number(zahl), this);
         zelle->setFixedSize(kZellseite, kZellseite);
-        if (art != Art::NurAnzeige)
-            zelle->beiKlick = [this, zahl] { klick(zahl); };
+        zelle->beiKlick = [this, zahl] { klick(zahl); };
         zellen_[static_cast<std::size_t>(zahl)] = zelle;
         gitter->addWidget(zelle, Tippfeld7x7::zeile(zahl), Tippfeld7x7::spalte(zahl));
     }
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    if (art != Art::NurAnzeige)
-        setFocusPolicy(Qt::StrongFocus);
+    setzeArt(art);
+}
+
+void Tippfeld7x7View::setzeArt(Art art)
+{
+    art_ = art;
+    setFocusPolicy(art == Art::NurAnzeige ? Qt::NoFocus : Qt::StrongFocus);
+    update();
 }
 
 void Tippfeld7x7View::zeige(const Tippfeld7x7& modell)
@@ -41,14 +44,23 @@ void Tippfeld7x7View::zeige(const Tippfeld7x7& modell)
 
 void Tippfeld7x7View::klick(int zahl)
 {
+    if (art_ == Art::NurAnzeige)
+        return;
     fokuszahl_ = zahl;
-    if (art_ == Art::FreieEingabe)
-        modell_.klickFreieEingabe(zahl);
-    else
-        modell_.klickEineZahl(zahl);
+    nimm(zahl);
     frischeAuf();
     if (beiKlick)
         beiKlick(zahl);
+}
+
+void Tippfeld7x7View::nimm(int zahl)
+{
+    if (art_ == Art::FreieEingabe)
+        modell_.klickFreieEingabe(zahl);
+    else if (art_ == Art::EineZahl)
+        modell_.klickEineZahl(zahl);
+    else
+        modell_.klickAuswahl(zahl);
 }
 
 void Tippfeld7x7View::frischeAuf()

@@ -29,6 +29,12 @@ void Tippfeld7x7::klickEineZahl(int zahl)
     marken_.set(stelle(zahl));
 }
 
+void Tippfeld7x7::klickAuswahl(int zahl)
+{
+    if (gibtEs(zahl))
+        marken_.flip(stelle(zahl));
+}
+
 void Tippfeld7x7::zeige(std::span<const std::int32_t> zahlen)
 {
     loesche();

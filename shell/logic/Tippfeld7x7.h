@@ -29,6 +29,8 @@ public:
     void klickFreieEingabe(int zahl);
     /// One of 49: marks the cell and unmarks all others.
     void klickEineZahl(int zahl);
+    /// Choice of any number of cells: a marked cell is unmarked, an unmarked one marked.
+    void klickAuswahl(int zahl);
     /// Marks these numbers and no others.
     void zeige(std::span<const std::int32_t> zahlen);
     void loesche() { marken_.reset(); }

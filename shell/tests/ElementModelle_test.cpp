@@ -107,6 +107,17 @@ TEST(Tippfeld7x7, EineZahlLoestAlleAnderen)
     EXPECT_THAT(feld.gewaehlte(), ElementsAre(30));
 }
 
+TEST(Tippfeld7x7, EineAuswahlNimmtBeliebigViele)
+{
+    Tippfeld7x7 feld;
+    for (int zahl = 1; zahl <= 49; ++zahl)
+        feld.klickAuswahl(zahl);
+    EXPECT_EQ(feld.anzahl(), 49);
+    feld.klickAuswahl(7);
+    EXPECT_EQ(feld.anzahl(), 48);
+    EXPECT_FALSE(feld.markiert(7));
+}
+
 TEST(Tippfeld7x7, EineZiehungErsetztWasDaWar)
 {
     Tippfeld7x7 feld = feldMit({1, 2, 3, 4, 5, 6});
@@ -120,6 +131,7 @@ TEST(Tippfeld7x7, ZahlenAusserhalbAendernNichts)
         Tippfeld7x7 feld = feldMit({5});
         feld.klickFreieEingabe(zahl);
         feld.klickEineZahl(zahl);
+        feld.klickAuswahl(zahl);
         EXPECT_FALSE(feld.markiert(zahl)) << zahl;
         EXPECT_THAT(feld.gewaehlte(), ElementsAre(5)) << zahl;
     }

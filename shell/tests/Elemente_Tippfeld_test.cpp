@@ -142,6 +142,28 @@ TEST_F(ElementTippfeld, EineVon49VerdraengtDieVorige)
     EXPECT_THAT(klicks, ElementsAre(5, 33, 33));
 }
 
+TEST_F(ElementTippfeld, EineAuswahlNimmtMehrAlsSechs)
+{
+    zeige(Tippfeld7x7View::Art::Auswahl);
+    klickeZahlen({1, 2, 3, 4, 5, 6, 7, 8});
+    EXPECT_THAT(markierte(), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8));
+    tippe("Feld", "Space Up Space");
+    EXPECT_THAT(markierte(), ElementsAre(2, 3, 4, 5, 6, 7));
+}
+
+TEST_F(ElementTippfeld, WirdZurAnzeigeUndWiederZurAuswahl)
+{
+    Tippfeld7x7View& feld = zeige(Tippfeld7x7View::Art::Auswahl);
+    klicke(zelle(9));
+    feld.setzeArt(Tippfeld7x7View::Art::NurAnzeige);
+    klicke(zelle(10));
+    EXPECT_EQ(feld.focusPolicy(), Qt::NoFocus);
+    EXPECT_THAT(markierte(), ElementsAre(9));
+    feld.setzeArt(Tippfeld7x7View::Art::Auswahl);
+    tippe("Feld", "Right Space");
+    EXPECT_THAT(markierte(), ElementsAre(9, 10));
+}
+
 TEST_F(ElementTippfeld, ZurAnzeigeNimmtEsWederKlicksNochTasten)
 {
     Tippfeld7x7View& feld = zeige(Tippfeld7x7View::Art::NurAnzeige);
