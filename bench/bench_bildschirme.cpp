@@ -295,6 +295,19 @@ BENCHMARK(listeUnterDenAugen)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(maleMillionen)->Arg(0)->Arg(1)->Arg(50)->Arg(100)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(menueAusDemNichts)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(oeffneUndSchliesse)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, zellfilter, "frmZusammenZeileSpalte", "cz(0)")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, gittermuster, "frmZeileSpalte2", "Command22")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, gitteruebersicht, "frmZeileSpalte2", "cmdUebersicht")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, dekaden, "frmDekade", "Command1")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(waehleUndZaehle, endziffern, "frmEndziffer", "optZeile(1)")
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(waehleUndZaehle, haeufigkeit, "frmZusammenHaeufigkeit", "chkZusatzzahl")
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);

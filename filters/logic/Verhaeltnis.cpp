@@ -1,5 +1,6 @@
 #include "filters/logic/Verhaeltnis.h"
 
+#include "filters/logic/Fundangabe.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Lottozahl.h"
 #include "shell/logic/Tippfeld7x7.h"
@@ -9,7 +10,6 @@
 namespace {
 
 constexpr int kErsteHohe = 25;
-constexpr std::size_t kLueckeVorDatum = 2;
 
 constexpr std::array<std::string_view, 7> kVerhaeltnisse{"     6:0   ", "     5:1   ", "     4:2   ", "     3:3   ",
                                                          "     2:4   ", "     1:5   ", "     0:6   "};
@@ -41,8 +41,7 @@ bool istAmRand(std::int32_t zahl)
 
 std::string anteil(std::int32_t ziehungen, std::int32_t alle)
 {
-    const double prozent = alle > 0 ? 100.0 * ziehungen / alle : 0;
-    return Format(Format(prozent, "0.000"), "@@@@@@");
+    return Format(Format(prozentVon(static_cast<std::size_t>(ziehungen), alle), "0.000"), "@@@@@@");
 }
 
 } // namespace
@@ -92,7 +91,7 @@ Verhaeltnissuche FiltereZiehungen(const ZiehungsArchiv& archiv, const Verhaeltni
         const auto anzahl = std::ranges::count_if(archiv.gewinnzahlen(nr), art.gehoertDazu);
         ++suche.ziehungen[static_cast<std::size_t>(anzahl)];
         if (anzahl == gesucht)
-            suche.funde.push_back(ziehungsfund(archiv, nr, kLueckeVorDatum, archiv.DatumAlle[nr]));
+            suche.funde.push_back(ziehungsfund(archiv, nr, datumAlleVon));
     }
     return suche;
 }

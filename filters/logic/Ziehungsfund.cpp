@@ -1,11 +1,28 @@
 #include "filters/logic/Ziehungsfund.h"
 
+#include "shell/logic/Format.h"
 #include "shell/logic/Zahlen.h"
 
-Ziehungsfund ziehungsfund(const ZiehungsArchiv& archiv, std::size_t nr, std::size_t luecke, std::string_view datum)
+Ziehungsfund ziehungsfund(const ZiehungsArchiv& archiv, std::size_t nr, Datumsspalte datum)
 {
-    const Kombination zahlen = archiv.gewinnzahlen(nr);
-    std::string zeile = jahrUndWoche(archiv, nr) + "   " + zahlentext(zahlen) + std::string(luecke, ' ');
-    zeile += datum;
-    return {std::move(zeile), zahlen};
+    return {archiv.jjjj[nr], archiv.sw[nr], archiv.gewinnzahlen(nr), datum(archiv, nr)};
+}
+
+std::vector<Ziehungsfund> alleZiehungen(const ZiehungsArchiv& archiv, Datumsspalte datum)
+{
+    std::vector<Ziehungsfund> ziehungen;
+    ziehungen.reserve(static_cast<std::size_t>(archiv.AnzahlZiehungen));
+    for (std::size_t nr = 1; nr <= static_cast<std::size_t>(archiv.AnzahlZiehungen); ++nr)
+        ziehungen.push_back(ziehungsfund(archiv, nr, datum));
+    return ziehungen;
+}
+
+std::string ziehungszeile(const Ziehungsfund& fund)
+{
+    return Format(fund.jjjj, "0000") + "/" + Format(fund.sw, "00") + "   " + zahlentext(fund.zahlen);
+}
+
+std::string fundzeile(const Ziehungsfund& fund, std::size_t luecke)
+{
+    return ziehungszeile(fund) + std::string(luecke, ' ') + fund.datum;
 }

@@ -11,9 +11,6 @@
 
 namespace {
 
-constexpr int kZeilen = 20;
-constexpr int kZeichen = 46;
-
 template <class Feld> Feld* benannt(Feld* feld, const char* name)
 {
     feld->setObjectName(name);
@@ -22,13 +19,14 @@ template <class Feld> Feld* benannt(Feld* feld, const char* name)
 
 } // namespace
 
-Fundanzeige::Fundanzeige(Bildschirm& bildschirm)
-    : List1(benannt(new Liste(&bildschirm), "List1")),
+Fundanzeige::Fundanzeige(Bildschirm& bildschirm, const Fundliste& fundliste)
+    : macheZeile_(fundliste.zeile),
+      List1(benannt(new Liste(&bildschirm), "List1")),
       cmdAuto(benannt(new QPushButton("E", &bildschirm), "cmdAuto")),
       Bezeichnung6(new Tippfeld7x7View("Bezeichnung6", Tippfeld7x7View::Art::NurAnzeige, &bildschirm))
 {
-    List1->setzeSichtbar(kZeilen, kZeichen);
-    cmdAuto->setToolTip("Automatische Anzeige im Tippfeld  ein/aus");
+    List1->setzeSichtbar(fundliste.zeilen, fundliste.zeichen);
+    cmdAuto->setToolTip(fundliste.hinweis);
     auto* rahmen = benannt(new Rahmen("Anzeige der Ziehung", &bildschirm), "frame3");
     rahmen->setzeInhalt(spalte({Bezeichnung6, zeile({luecke(), cmdAuto})}));
     frame3 = rahmen;
@@ -44,7 +42,7 @@ Fundanzeige::Fundanzeige(Bildschirm& bildschirm)
 void Fundanzeige::zeige(std::vector<Ziehungsfund> funde)
 {
     funde_ = std::move(funde);
-    List1->modell().aufAnfrage(funde_.size(), [this](std::size_t zeile) { return funde_[zeile].zeile; });
+    List1->modell().aufAnfrage(funde_.size(), [this](std::size_t zeile) { return macheZeile_(funde_[zeile]); });
     if (funde_.empty())
         return;
     List1->modell().SetListIndex(0);

@@ -2,7 +2,9 @@
 
 #include "filters/logic/Ziehungsfund.h"
 
+#include <functional>
 #include <span>
+#include <string>
 #include <vector>
 
 class AutomatischeAnzeige;
@@ -12,11 +14,19 @@ class QGroupBox;
 class QPushButton;
 class Tippfeld7x7View;
 
+/// How a tool lists the draws that it has found.
+struct Fundliste {
+    std::function<std::string(const Ziehungsfund&)> zeile;
+    int zeichen = 0; ///< of a row, to be in sight without scrolling
+    int zeilen = 20;
+    const char* hinweis = "Automatische Anzeige im Tippfeld  ein/aus";
+};
+
 /// The draws that a filter has found: their list `List1`, and beside it the frame `frame3` with the ticket of the
 /// chosen draw and `cmdAuto`, which goes through the list by itself.
 class Fundanzeige {
 public:
-    explicit Fundanzeige(Bildschirm& bildschirm);
+    Fundanzeige(Bildschirm& bildschirm, const Fundliste& fundliste);
 
     Liste* liste() const { return List1; }
     QGroupBox* rahmen() const { return frame3; }
@@ -31,6 +41,7 @@ private:
     void zeigeZeile(std::size_t zeile);
     void markiere(std::span<const std::int32_t> zahlen);
 
+    std::function<std::string(const Ziehungsfund&)> macheZeile_;
     std::vector<Ziehungsfund> funde_;
     Liste* List1;
     QPushButton* cmdAuto;

@@ -20,12 +20,18 @@ constexpr auto kListentitel = "Gefundene Ziehungen";
 constexpr std::size_t kVoreinstellung = 3; ///< three of the six numbers
 constexpr int kTafelzeilen = 9;
 constexpr int kTafelzeichen = 34;
+constexpr int kFundzeichen = 46;
+
+std::string zeileVon(const Ziehungsfund& fund)
+{
+    return fundzeile(fund, 2);
+}
 
 } // namespace
 
 Verhaeltnisfilter::Verhaeltnisfilter(Umgebung& umgebung, const VerhaeltnisfilterTexte& texte, const Verhaeltnisart& art)
     : Bildschirm(umgebung, texte.name, texte.titel),
-      anzeige_(*this),
+      anzeige_(*this, {.zeile = zeileVon, .zeichen = kFundzeichen}),
       texte_(texte),
       art_(art)
 {
