@@ -2,6 +2,8 @@
 #include "bench/Messlauf.h"
 #include "engines/logic/NieGezogeneDreier.h"
 #include "engines/logic/WiederholungDetails.h"
+#include "engines/logic/Zerlegung.h"
+#include "engines/logic/Zusammengezogene.h"
 #include "testhilfen/WiederholungenReferenz.h"
 
 #include <algorithm>
@@ -12,7 +14,9 @@
 
 // The repetition search over the draws of all three games as the program does it, beside the plain search that sorts
 // the sets as texts; over the largest archive there can be; and what follows from a search: the details of all lines,
-// beside the membership test of each draw, and the triples that were never drawn.
+// beside the membership test of each draw, and the triples that were never drawn. Then the chosen draws cut up, here
+// all Saturday draws, with all their sets in the order of their texts, beside the plain sort of the texts; the details
+// of all these sets; and what was drawn together with two numbers.
 
 namespace {
 
@@ -105,6 +109,40 @@ void nieGezogene(benchmark::State& stand)
         benchmark::DoNotOptimize(nieGezogeneDreier(alleZiehungen()));
 }
 
+Ziehungsauswahl alleSamstage()
+{
+    return {Ziehungsauswahl(), &samstagsarchiv()};
+}
+
+void zerlegt(benchmark::State& stand)
+{
+    for ([[maybe_unused]] auto _ : stand)
+        benchmark::DoNotOptimize(zerlege(alleSamstage(), static_cast<int>(stand.range(0))));
+}
+
+void zerlegtMitTexten(benchmark::State& stand)
+{
+    for ([[maybe_unused]] auto _ : stand)
+        benchmark::DoNotOptimize(Referenz::suche(samstagsarchiv(), static_cast<int>(stand.range(0))));
+}
+
+void zerlegungsdetailsAllerZeilen(benchmark::State& stand)
+{
+    const Zerlegung zerlegung = zerlege(alleSamstage(), static_cast<int>(stand.range(0)));
+    for ([[maybe_unused]] auto _ : stand)
+        benchmark::DoNotOptimize(zerlegungsdetails(zerlegung).anzahl());
+}
+
+void zusammenMitZweien(benchmark::State& stand)
+{
+    for ([[maybe_unused]] auto _ : stand)
+        benchmark::DoNotOptimize(zaehleZusammengezogene(alleZiehungen(), {13, 49}));
+}
+
+BENCHMARK(zerlegt)->DenseRange(2, 5)->Unit(benchmark::kMillisecond);
+BENCHMARK(zerlegtMitTexten)->DenseRange(2, 5)->Unit(benchmark::kMillisecond);
+BENCHMARK(zerlegungsdetailsAllerZeilen)->DenseRange(2, 5)->Unit(benchmark::kMillisecond);
+BENCHMARK(zusammenMitZweien)->Unit(benchmark::kMicrosecond);
 BENCHMARK(programm)->DenseRange(2, 6)->Unit(benchmark::kMillisecond);
 BENCHMARK(mitTexten)->DenseRange(2, 6)->Unit(benchmark::kMillisecond);
 BENCHMARK(suchtInVollenDateien)->DenseRange(2, 6)->Unit(benchmark::kMillisecond);

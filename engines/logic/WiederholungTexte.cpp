@@ -117,3 +117,8 @@ std::string zusammenfassung(const Wiederholungen& ergebnis)
     return zusammenfassung({name.kombinationen, std::string(name.moegliche), anzahl(nie), anzahl(ergebnis.AnzahlEinmal),
                             anzahl(ergebnis.AnzahlMehrfach)});
 }
+
+std::string suchzeittext(double millisekunden)
+{
+    return "Suchzeit = " + Dezimaltext(millisekunden / 1000, 2) + " s";
+}

@@ -51,3 +51,6 @@ std::string leereWiederholungszusammenfassung();
 
 /// The summary of a search that was not stopped.
 std::string zusammenfassung(const Wiederholungen& ergebnis);
+
+/// "Suchzeit = 0,25 s" of a duration in milliseconds.
+std::string suchzeittext(double millisekunden);

@@ -44,7 +44,10 @@ template <std::size_t k> constexpr auto spaltenwahl()
 
 template <std::size_t k> class Suche {
 public:
-    explicit Suche(const Suchfortschritt& fortschritt) : fortschritt_(fortschritt)
+    /// Keeps the sets that stand in `mindestens` draws or more.
+    Suche(std::int32_t mindestens, const Suchfortschritt& fortschritt)
+        : mindestens_(mindestens),
+          fortschritt_(fortschritt)
     {
         ergebnis_.Wiederholungslaenge = static_cast<int>(k);
     }
@@ -152,39 +155,50 @@ private:
 
     void schliesse(const Menge& menge, std::int32_t n)
     {
-        if (n == 1) {
-            ++ergebnis_.AnzahlEinmal;
+        ++(n == 1 ? ergebnis_.AnzahlEinmal : ergebnis_.AnzahlMehrfach);
+        if (n < mindestens_)
             return;
-        }
-        ++ergebnis_.AnzahlMehrfach;
         Wiederholung& neue = ergebnis_.mehrfache.emplace_back();
         std::ranges::transform(menge, neue.zahlen.begin(),
                                [](std::uint32_t zahl) { return static_cast<std::int32_t>(zahl ^ kVorzeichen); });
         neue.anzahl = n;
     }
 
+    std::int32_t mindestens_;
     const Suchfortschritt& fortschritt_;
     std::vector<Menge> Suchschluessel;
     std::uint32_t verschiedene_ = 0; ///< the bits that are not the same in all numbers
     Wiederholungen ergebnis_;
 };
 
+/// `mehrfache` holds the sets that stand in `mindestens` draws or more.
+Wiederholungen suche(const ZiehungsArchiv& archiv, int k, std::int32_t mindestens, const Suchfortschritt& fortschritt)
+{
+    switch (k) {
+    case 2:
+        return Suche<2>(mindestens, fortschritt).suche(archiv);
+    case 3:
+        return Suche<3>(mindestens, fortschritt).suche(archiv);
+    case 4:
+        return Suche<4>(mindestens, fortschritt).suche(archiv);
+    case 5:
+        return Suche<5>(mindestens, fortschritt).suche(archiv);
+    case 6:
+        return Suche<6>(mindestens, fortschritt).suche(archiv);
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 Wiederholungen WiederholungsSuche(const ZiehungsArchiv& archiv, int k, const Suchfortschritt& fortschritt)
 {
-    switch (k) {
-    case 2:
-        return Suche<2>(fortschritt).suche(archiv);
-    case 3:
-        return Suche<3>(fortschritt).suche(archiv);
-    case 4:
-        return Suche<4>(fortschritt).suche(archiv);
-    case 5:
-        return Suche<5>(fortschritt).suche(archiv);
-    case 6:
-        return Suche<6>(fortschritt).suche(archiv);
-    default:
-        return {};
-    }
+    return suche(archiv, k, 2, fortschritt);
+}
+
+Mengenzaehlung zaehleMengen(const ZiehungsArchiv& archiv, int k, const Suchfortschritt& fortschritt)
+{
+    Wiederholungen gezaehlte = suche(archiv, k, 1, fortschritt);
+    return {std::move(gezaehlte.mehrfache), gezaehlte.vollstaendig};
 }

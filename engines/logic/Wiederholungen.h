@@ -11,10 +11,12 @@
 inline constexpr int kKleinsteWiederholung = 2;
 inline constexpr int kGroessteWiederholung = 6;
 
-/// A set of numbers that stands in more than one draw.
+/// A set of numbers and in how many draws it stands.
 struct Wiederholung {
     std::array<std::int32_t, 6> zahlen{}; ///< as the columns hold them; the first `Wiederholungslaenge` count
-    std::int32_t anzahl = 0;              ///< 2 or more
+    std::int32_t anzahl = 0;              ///< 2 or more, in a count of all sets 1 or more
+
+    bool operator==(const Wiederholung&) const = default;
 };
 
 /// What a search has found. The default is that of no search.
@@ -36,3 +38,12 @@ using Suchfortschritt = std::function<bool(Suchschritt schritt, std::uint64_t er
 /// Counts all sets of `k` Gewinnzahlen, 2..6, over all draws; for any other `k` there are none. A set is the numbers of
 /// `k` columns from the left to the right: rows of a file that are not ascending give other sets than ascending ones.
 Wiederholungen WiederholungsSuche(const ZiehungsArchiv& archiv, int k, const Suchfortschritt& fortschritt = {});
+
+/// All sets of `k` numbers, those that stand in one draw alone too, in ascending order of their numbers.
+struct Mengenzaehlung {
+    std::vector<Wiederholung> mengen;
+    bool vollstaendig = false; ///< false if the count was stopped
+};
+
+/// Counts the sets as `WiederholungsSuche` does and keeps all of them.
+Mengenzaehlung zaehleMengen(const ZiehungsArchiv& archiv, int k, const Suchfortschritt& fortschritt = {});

@@ -2,10 +2,13 @@
 
 #include "engines/screens/frmAlleKombis.h"
 #include "engines/screens/frmFUENFW.h"
+#include "engines/screens/frmFeiruben.h"
 #include "engines/screens/frmHGDV.h"
 #include "engines/screens/frmInfoHGDV.h"
+#include "engines/screens/frmKombiAscii.h"
 #include "engines/screens/frmPOSKOM.h"
 #include "engines/screens/frmTreffer.h"
+#include "engines/screens/frmZusammenBank.h"
 #include "engines/screens/frmZusammenFUENFW.h"
 #include "engines/screens/frmZusammenHGDV.h"
 #include "engines/screens/frmpos2.h"
@@ -24,4 +27,7 @@ void registriereSuchbildschirme(BildschirmVerzeichnis& verzeichnis)
     verzeichnis.registriere<frmFÜNFW>("frmFÜNFW");
     verzeichnis.registriere<frmZusammenFÜNFW>("frmZusammenFÜNFW");
     verzeichnis.registriere<frmTreffer>("frmTreffer");
+    verzeichnis.registriere<frmFeiruben>("frmFeiruben");
+    verzeichnis.registriere<frmZusammenBank>("frmZusammenBank");
+    verzeichnis.registriere<frmKombiAscii>("frmKombiAscii");
 }

@@ -3,7 +3,6 @@
 #include "shell/elements/Liste.h"
 #include "shell/elements/Textanzeige.h"
 #include "shell/elements/Utf8.h"
-#include "shell/logic/Format.h"
 #include "shell/logic/clsTimer.h"
 
 #include <QLabel>
@@ -123,5 +122,5 @@ void WiederholungsBildschirm::zeigeAnzahl(const Feld& hier)
 
 void WiederholungsBildschirm::zeigeSuchzeit(const clsTimer& uhr)
 {
-    Bezeichnung2->setText(qt("Suchzeit = " + Dezimaltext(uhr.Elapsed() / 1000, 2) + " s"));
+    Bezeichnung2->setText(qt(suchzeittext(uhr.Elapsed())));
 }

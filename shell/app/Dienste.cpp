@@ -73,7 +73,10 @@ std::optional<QString> FensterBoxen::datei(const DateiFrage& frage)
 {
     QFileDialog dialog(QApplication::activeWindow(), frage.titel, vorhandenerOrt(frage.pfad), frage.filter);
     dialog.setAcceptMode(frage.speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(frage.speichern ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setFileMode(frage.ordner      ? QFileDialog::Directory
+                       : frage.speichern ? QFileDialog::AnyFile
+                                         : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::ShowDirsOnly, frage.ordner);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !frage.frageVorUeberschreiben);
     dialog.setDefaultSuffix(frage.standardendung);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())

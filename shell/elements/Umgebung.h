@@ -24,6 +24,7 @@ struct DateiFrage {
     QString standardendung;
     bool speichern = false;
     bool frageVorUeberschreiben = false;
+    bool ordner = false; ///< a folder is wanted, not a file
 };
 
 /// Message boxes, questions and file dialogs. They hold up the caller until the user has answered.

@@ -80,13 +80,21 @@ bool AtomareDatei::schreibe(std::string_view bytes)
 {
     if (!datei_)
         return false;
+    if (puffer_.size() + bytes.size() >= kPuffer)
+        return leere() && gibWeiter(bytes);
     puffer_.append(bytes);
-    return puffer_.size() < kPuffer || leere();
+    return true;
 }
 
 bool AtomareDatei::leere()
 {
-    std::string_view rest = puffer_;
+    const bool geschrieben = gibWeiter(puffer_);
+    puffer_.clear();
+    return geschrieben;
+}
+
+bool AtomareDatei::gibWeiter(std::string_view rest)
+{
     while (!rest.empty()) {
         const ssize_t geschrieben = ::write(datei_.nummer(), rest.data(), rest.size());
         if (geschrieben >= 0)
@@ -94,7 +102,6 @@ bool AtomareDatei::leere()
         else if (errno != EINTR)
             return scheitere(errno);
     }
-    puffer_.clear();
     return true;
 }
 

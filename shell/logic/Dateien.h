@@ -44,6 +44,7 @@ private:
     bool oeffneZiel(const std::filesystem::path& ziel, Schreibschutz schutz);
     bool oeffneVorlaeufige();
     bool leere();
+    bool gibWeiter(std::string_view bytes);
     bool scheitere(int fehler);
     void raeumeAuf();
 

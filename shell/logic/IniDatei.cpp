@@ -133,6 +133,29 @@ std::string mitZeilenende(std::string inhalt)
     return inhalt;
 }
 
+bool hatNamen(const IniEintrag& eintrag)
+{
+    return istAbschnittsname(eintrag.abschnitt) && istSchluessel(eintrag.schluessel);
+}
+
+/// Sets a key in the bytes of a file.
+void setze(std::string& inhalt, const IniEintrag& eintrag)
+{
+    std::string neu = nachWindows1252(eintrag.schluessel) + "=" + alsWert(eintrag.wert);
+    neu += kZeilenende;
+    const Fundstelle fund = suche(inhalt, eintrag.abschnitt, eintrag.schluessel);
+    if (fund.zeile) {
+        inhalt.replace(fund.zeile->anfang, fund.zeile->ende - fund.zeile->anfang, neu);
+    } else if (fund.abschnitt && fund.einfuegen < inhalt.size()) {
+        inhalt.insert(fund.einfuegen, neu);
+    } else {
+        inhalt = mitZeilenende(std::move(inhalt));
+        if (!fund.abschnitt)
+            inhalt += "[" + nachWindows1252(eintrag.abschnitt) + "]" + std::string(kZeilenende);
+        inhalt += neu;
+    }
+}
+
 } // namespace
 
 std::string IniLesen(const std::filesystem::path& datei, std::string_view abschnitt, std::string_view schluessel)
@@ -148,20 +171,17 @@ std::string IniLesen(const std::filesystem::path& datei, std::string_view abschn
 bool IniSchreiben(const std::filesystem::path& datei, std::string_view abschnitt, std::string_view schluessel,
                   std::string_view wert)
 {
+    const IniEintrag eintrag{abschnitt, std::string(schluessel), std::string(wert)};
+    return IniSchreiben(datei, {&eintrag, 1});
+}
+
+bool IniSchreiben(const std::filesystem::path& datei, std::span<const IniEintrag> eintraege)
+{
     std::optional<std::string> inhalt = liesInhalt(datei);
-    if (!inhalt || !istAbschnittsname(abschnitt) || !istSchluessel(schluessel))
+    if (!inhalt || !std::ranges::all_of(eintraege, hatNamen))
         return false;
-    std::string neu = nachWindows1252(schluessel) + "=" + alsWert(wert);
-    neu += kZeilenende;
-    const Fundstelle fund = suche(*inhalt, abschnitt, schluessel);
-    if (fund.zeile) {
-        inhalt->replace(fund.zeile->anfang, fund.zeile->ende - fund.zeile->anfang, neu);
-    } else if (fund.abschnitt && fund.einfuegen < inhalt->size()) {
-        inhalt->insert(fund.einfuegen, neu);
-    } else {
-        *inhalt = mitZeilenende(std::move(*inhalt));
-        *inhalt += fund.abschnitt ? neu : "[" + nachWindows1252(abschnitt) + "]" + std::string(kZeilenende) + neu;
-    }
+    for (const IniEintrag& eintrag : eintraege)
+        setze(*inhalt, eintrag);
     return inhalt->size() <= kGroessteDatei && schreibeDatei(datei, *inhalt, Schreibschutz::Achten).gut();
 }
 

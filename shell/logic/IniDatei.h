@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,16 @@ std::string IniLesen(const std::filesystem::path& datei, std::string_view abschn
 /// is as before, if a name is empty or would break the file, or if the file cannot be read or written.
 bool IniSchreiben(const std::filesystem::path& datei, std::string_view abschnitt, std::string_view schluessel,
                   std::string_view wert);
+
+/// A key of a section and its value.
+struct IniEintrag {
+    std::string_view abschnitt;
+    std::string schluessel;
+    std::string wert;
+};
+
+/// Sets several keys in one write: all of them or, if it gives false, none.
+bool IniSchreiben(const std::filesystem::path& datei, std::span<const IniEintrag> eintraege);
 
 /// True for "True", "Wahr", "1" and "-1", in any case; false for everything else.
 bool istWahr(std::string_view text);

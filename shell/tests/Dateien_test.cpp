@@ -51,6 +51,20 @@ TEST(SchreibeDatei, ErsetztDieAlteUndBehaeltIhreRechte)
     EXPECT_EQ(ordner.eintraege(), 1U);
 }
 
+TEST(SchreibeDatei, GrosseUndKleineStueckeBleibenInIhrerFolge)
+{
+    const Pruefordner ordner;
+    std::string soll;
+    AtomareDatei datei(ordner / "stuecke.txt");
+    for (const std::size_t laenge : {3U, 1'000'000U, 0U, 262'143U, 1U, 262'144U, 7U}) {
+        const std::string stueck(laenge, static_cast<char>('a' + soll.size() % 26));
+        EXPECT_TRUE(datei.schreibe(stueck));
+        soll += stueck;
+    }
+    EXPECT_TRUE(datei.uebernimm());
+    EXPECT_EQ(inhaltVon(ordner / "stuecke.txt"), soll);
+}
+
 TEST(SchreibeDatei, LeererInhaltGibtLeereDatei)
 {
     const Pruefordner ordner;

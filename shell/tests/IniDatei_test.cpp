@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -193,6 +194,17 @@ TEST(Wahrheitswert, TextUndZurueck)
     EXPECT_EQ(wahrheitswert(false), "False");
     EXPECT_TRUE(istWahr(wahrheitswert(true)));
     EXPECT_FALSE(istWahr(wahrheitswert(false)));
+}
+
+TEST_F(IniDatei, SchreibtMehrereAufEinmalOderKeinen)
+{
+    const fs::path ini = ordner.lege("mehrere.ini", "[A]\r\nx=1\r\n");
+    const std::vector<IniEintrag> gute{{"A", "x", "2"}, {"B", "y(0)", "True"}, {"A", "z", "3"}};
+    EXPECT_TRUE(IniSchreiben(ini, gute));
+    EXPECT_EQ(inhaltVon(ini), "[A]\r\nx=2\r\nz=3\r\n[B]\r\ny(0)=True\r\n");
+    const std::vector<IniEintrag> schlechte{{"A", "x", "9"}, {"A", "a=b", "9"}};
+    EXPECT_FALSE(IniSchreiben(ini, schlechte));
+    EXPECT_EQ(IniLesen(ini, "A", "x"), "2");
 }
 
 } // namespace
