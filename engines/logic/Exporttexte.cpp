@@ -18,8 +18,10 @@ std::uint64_t gesamtgroesse(const std::vector<Exportdatei>& dateien)
     return bytes;
 }
 
-std::string megabytes(std::uint64_t bytes)
+std::string groessenangabe(std::uint64_t bytes)
 {
+    if (bytes < 1'000'000)
+        return Format(bytes, "#,##0") + " Bytes";
     return Format(static_cast<double>(bytes) / 1'000'000, "#,##0.0") + " MB";
 }
 
@@ -68,7 +70,7 @@ std::string dateienangabe(const std::vector<Exportdatei>& dateien)
     std::string namen = dateien.front().name;
     if (dateien.size() > 1)
         namen += " bis " + dateien.back().name;
-    return namen + " (" + megabytes(gesamtgroesse(dateien)) + ")";
+    return namen + " (" + groessenangabe(gesamtgroesse(dateien)) + ")";
 }
 
 std::string exportfortschritt(const Exportauftrag& auftrag, std::uint64_t kombinationen)
@@ -103,7 +105,7 @@ std::string ueberschreibfrage(const std::vector<std::string>& vorhandene, std::s
 std::string platzReichtNicht(std::string_view ordner, const std::vector<Exportdatei>& dateien, std::uint64_t fehlende)
 {
     return "Für " + dateienangabe(dateien) + " reicht der freie Platz im Ordner " + std::string(ordner) +
-           " nicht: Es fehlen " + megabytes(fehlende) + ".\nEs wurde nichts geschrieben.";
+           " nicht: Es fehlen " + groessenangabe(fehlende) + ".\nEs wurde nichts geschrieben.";
 }
 
 std::string exportGescheitert(const Exportergebnis& ergebnis)

@@ -98,7 +98,7 @@ QLayout* frmFeiruben::auswahlblock()
     Liste1->setzeSichtbar(9, 34);
     List12->setzeSichtbar(6, 34);
 
-    Liste1->beiAuswahl = [this] { uebernimmAuswahl(); };
+    Liste1->beiAuswahl = [this] { uebernimmListe(); };
     bei(cmbJahr, [this] { waehleZiehungen(umgebung().archiv.jjjj, *cmbJahr); });
     bei(cmbMonat, [this] { waehleZiehungen(umgebung().archiv.sw, *cmbMonat); });
     bei(cmdAll, [this] { Liste1->waehleAlle(); });
@@ -182,6 +182,12 @@ void frmFeiruben::hebeAuswahlAuf()
 {
     for (const std::size_t zeile : Liste1->modell().ausgewaehlte())
         Liste1->modell().SetSelected(zeile, false);
+    uebernimmListe();
+}
+
+/// The draws are no longer those of a year or a week.
+void frmFeiruben::uebernimmListe()
+{
     cmbJahr->setCurrentIndex(-1);
     cmbMonat->setCurrentIndex(-1);
     uebernimmAuswahl();

@@ -29,6 +29,7 @@ private:
     void fuelleZiehungen();
     void waehleZiehungen(const ZiehungsArchiv::Spalte& spalte, const QComboBox& wert);
     void hebeAuswahlAuf();
+    void uebernimmListe();
     void uebernimmAuswahl();
 
     void zerlege(std::size_t nummer);

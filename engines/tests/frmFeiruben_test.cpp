@@ -90,7 +90,10 @@ TEST_F(Zerlegungsbildschirm, NimmtEinzelneAlleJahrUndWoche)
     EXPECT_EQ(lies("Label333"), "Anzahl der Ausgewählte Ziehungen: 3");
     klicke("cmdClear");
     EXPECT_EQ(lies("cmbJahr"), "");
+    setze("cmbJahr", "1956");
+    EXPECT_EQ(lies("cmbJahr"), "1956");
     klicke("cmdAll");
+    EXPECT_EQ(lies("cmbJahr"), "");
     EXPECT_EQ(zeilen("List12"), zeilen("Liste1"));
 }
 

@@ -91,7 +91,7 @@ TEST_F(Exportbildschirm, DieHinweiseFolgenDerWahl)
     EXPECT_EQ(lies("lblBis"), "Z3<=");
     EXPECT_TRUE(bedienbar("cmbB(1)"));
     EXPECT_FALSE(bedienbar("cmbB(2)"));
-    EXPECT_EQ(lies("lblDateien"), "3aus49_Bank_B1_B2.txt (0,0 MB)");
+    EXPECT_EQ(lies("lblDateien"), "3aus49_Bank_B1_B2.txt (570 Bytes)");
     klicke("optBZ(6)");
     EXPECT_FALSE(bedienbar("cmbB(0)"));
     EXPECT_TRUE(bedienbar("cmbVon"));
