@@ -108,7 +108,7 @@ DateiErgebnis saveSlip(const fs::path& ordner, std::int16_t spielart, std::strin
     if (haelteMehr(datei, bytes)) {
         fs::path kopie = datei;
         kopie += ".bak";
-        if (const DateiErgebnis kopiert = kopiereDatei(datei, kopie); !kopiert)
+        if (DateiErgebnis kopiert = kopiereDatei(datei, kopie); !kopiert)
             return kopiert;
     }
     return schreibeDatei(datei, bytes);

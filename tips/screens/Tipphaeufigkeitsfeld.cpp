@@ -23,7 +23,7 @@ Tipphaeufigkeitsfeld::Ansicht Tipphaeufigkeitsfeld::baueAnsicht(const QString& k
                                                                 const QString& liste)
 {
     constexpr int kZeilen = 5;
-    constexpr int kZeichen = 30;
+    constexpr int kZeichen = 26;
     const Ansicht ansicht{new QPushButton(text, this), new Liste(this)};
     ansicht.kopf->setObjectName(kopf);
     setzeHinweis(ansicht.kopf, kHinweis);

@@ -45,7 +45,7 @@ std::optional<std::string> waehleSpielwoche(Umgebung& umgebung,
                                             const std::function<bool(const std::string& name)>& gibtEs)
 {
     for (;;) {
-        const std::optional<std::string> spielwoche = frageSpielwoche(umgebung);
+        std::optional<std::string> spielwoche = frageSpielwoche(umgebung);
         if (!spielwoche || !bestaetigtSpielwoche(umgebung, *spielwoche))
             return std::nullopt;
         const std::string name = tippscheinName(umgebung.archiv.Spielart, *spielwoche);

@@ -122,7 +122,7 @@ void frmSSA::baueGewinnliste()
     Bezeichnung16 = bezeichnung("Bezeichnung16");
     Rahmen2 = rahmen(
         "Rahmen2", "Gewinne",
-        spalte({Text15, dehnbar(Liste1), zeile({Bezeichnung1, Bezeichnung2, Bezeichnung3, Bezeichnung16, luecke()})}));
+        spalte({Text15, dehnbar(Liste1), formular({{Bezeichnung1, Bezeichnung2}, {Bezeichnung3, Bezeichnung16}})}));
 }
 
 void frmSSA::baueZaehler()
@@ -149,6 +149,7 @@ void frmSSA::baueHaeufigkeit()
     Befehl4 = befehl("Befehl4", "&Häufigkeit der getippten Zahlen",
                      hinweis("Häufigkeit der getippten Zahlen (alle Tipdateien werden ausgewertet)."));
     Befehl6 = befehl("Befehl6", "H", hinweis(Tipphaeufigkeitsfeld::kHinweis));
+    Befehl6->setFixedWidth(Befehl6->fontMetrics().horizontalAdvance("00000"));
     Rahmen4 = rahmen("Rahmen4", "Getippte Zahlen", spalte({dehnbar(haeufigkeit_), zeile({dehnbar(Befehl4), Befehl6})}));
 }
 
@@ -325,8 +326,21 @@ void frmSSA::drucke()
     Druckauftrag auftrag;
     auftrag.kopf = {utf8(titel), utf8(Text15->text())};
     auftrag.folgekopf = {utf8(Text15->text())};
-    auftrag.zeilen.reserve(vergleich_.zeilenzahl());
-    for (std::size_t zeile = 0; zeile < vergleich_.zeilenzahl(); ++zeile)
-        auftrag.zeilen.push_back(vergleich_.zeile(zeile));
-    druckeZeilen(*this, titel.trimmed(), auftrag);
+    if (nimmZeilen(auftrag.zeilen))
+        druckeZeilen(*this, titel.trimmed(), auftrag);
+}
+
+/// False if the user stops it: a long list takes its time.
+bool frmSSA::nimmZeilen(std::vector<std::string>& zeilen)
+{
+    const QString titel = stand();
+    Lauf lauf(*this);
+    if (!lauf)
+        return false;
+    zeilen.reserve(vergleich_.zeilenzahl());
+    Takt takt(lauf.fortschritt());
+    while (zeilen.size() < vergleich_.zeilenzahl() && takt.schritt(zeilen.size()))
+        zeilen.push_back(vergleich_.zeile(zeilen.size()));
+    setzeTitel(titel);
+    return takt.laeuft();
 }

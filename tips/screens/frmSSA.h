@@ -42,6 +42,7 @@ private:
     void meldeFehler(const Scheingang& gang);
     void loesche();
     void drucke();
+    bool nimmZeilen(std::vector<std::string>& zeilen);
 
     Scheinvergleich vergleich_;
     std::array<QLineEdit*, 11> zaehler_; ///< from one hit to six with Superzahl

@@ -2,6 +2,7 @@
 #include "shell/elements/Liste.h"
 #include "tips/tests/Tipptest.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -194,6 +195,26 @@ TEST_F(Scheinvergleichsbildschirm, EscHaeltDenLaufAnUndLaesstDenSchirmOffen)
     tippe("frmSSA", "Esc");
     QCoreApplication::processEvents();
     EXPECT_EQ(buehne.bildschirme.geladen("frmSSA"), nullptr);
+}
+
+TEST_F(Scheinvergleichsbildschirm, EscHaeltDenDruckAn)
+{
+    lege("S_202418.dat", kZeile.repeated(9'000));
+    oeffneVergleich();
+    klicke("Befehl5");
+    const QString vorher = titel();
+    buehne.drucker.setzeDatei(pfad("druck.pdf"));
+    int zuege = 0;
+    buehne.pumpe.beiZug = [&] {
+        ++zuege;
+        EXPECT_EQ(titel(), "Bitte warten !");
+        tippe("frmSSA", "Esc");
+    };
+    klicke("Befehl18");
+    buehne.pumpe.beiZug = {};
+    EXPECT_EQ(zuege, 1);
+    EXPECT_EQ(titel(), vorher);
+    EXPECT_NE(buehne.bildschirme.geladen("frmSSA"), nullptr);
 }
 
 TEST_F(Scheinvergleichsbildschirm, DrucktDieListe)

@@ -6,6 +6,7 @@
 #include "tips/tests/Tipptest.h"
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
