@@ -15,7 +15,8 @@
 
 namespace {
 
-constexpr int kFundzeichen = 51;
+constexpr int kFundzeichen = 47;
+constexpr int kZusammenZeichen = 51; ///< with the name of the second Wednesday game
 constexpr auto kAnzahl = " Anzahl der Ziehungen: ";
 
 std::string zeileVon(const Ziehungsfund& fund)
@@ -28,7 +29,7 @@ std::string zeileVon(const Ziehungsfund& fund)
 Zellfilterbildschirm::Zellfilterbildschirm(Umgebung& umgebung, const QString& titel, const Zellfilterart& art)
     : Bildschirm(umgebung, art.name, titel),
       art_(art),
-      anzeige_(*this, {.zeile = zeileVon, .zeichen = kFundzeichen}),
+      anzeige_(*this, {.zeile = zeileVon, .zeichen = art.zusammen ? kZusammenZeichen : kFundzeichen}),
       wahl_(new Zellwahl(*this))
 {
     if (art.zusammen) {

@@ -15,13 +15,13 @@ namespace {
 constexpr int kZeichen = 86;
 constexpr int kAlleZeilen = 12;
 constexpr int kFundzeilen = 12;
-constexpr int kBeispielzeilen = 4;
-constexpr int kBeispielzeichen = 74;
+constexpr int kBeispielzeilen = 3;
+constexpr int kBeispielzeichen = 86;
 
-constexpr std::string_view kBeispiel = "Die Ziffern 0 bis 9: so viele der sechs Gewinnzahlen enden auf die Ziffer.\n"
-                                       "E, Z, D, V, F: so viele Endziffern kommen ein-, zwei-, drei-, vier- und\n"
-                                       "fünfmal vor.   |E|Z|D|V|F|\n"
-                                       "Beispiel:      |2|-|-|1|-|  zwei Endziffern einmal, eine viermal";
+constexpr std::string_view kBeispiel =
+    "Ziffern 0 bis 9: So viele der sechs Gewinnzahlen enden auf diese Ziffer.\n"
+    "E, Z, D, V, F: So viele Endziffern kommen ein-, zwei-, drei-, vier- und fünfmal vor.\n"
+    "Beispiel: |2|-|-|1|-| heißt, dass zwei Endziffern einmal vorkommen und eine viermal.";
 
 QString titelVon(std::int16_t spielart)
 {
