@@ -94,12 +94,25 @@ QString SystemZwischenablage::text() const
     return QGuiApplication::clipboard()->text();
 }
 
-bool StandardDrucker::drucke(const QString& titel, const Maler& male)
+QStringList SystemDrucker::namen() const
 {
-    const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
-    if (standard.isNull())
+    QStringList namen = QPrinterInfo::availablePrinterNames();
+    if (const qsizetype standard = namen.indexOf(QPrinterInfo::defaultPrinterName()); standard > 0)
+        namen.move(standard, 0);
+    return namen;
+}
+
+bool SystemDrucker::drucke(const QString& titel, const Maler& male)
+{
+    return druckeAuf(QPrinterInfo::defaultPrinterName(), titel, male);
+}
+
+bool SystemDrucker::druckeAuf(const QString& name, const QString& titel, const Maler& male)
+{
+    const QPrinterInfo gewaehlt = QPrinterInfo::printerInfo(name);
+    if (gewaehlt.isNull())
         return false;
-    QPrinter drucker(standard);
+    QPrinter drucker(gewaehlt);
     drucker.setDocName(titel);
     QPainter maler;
     if (!maler.begin(&drucker))

@@ -20,9 +20,11 @@ public:
     QString text() const override;
 };
 
-class StandardDrucker final : public Drucker {
+class SystemDrucker final : public Drucker {
 public:
+    QStringList namen() const override;
     bool drucke(const QString& titel, const Maler& male) override;
+    bool druckeAuf(const QString& name, const QString& titel, const Maler& male) override;
 };
 
 /// Plays on a thread of its own: looking for the sound device may take seconds on some machines.

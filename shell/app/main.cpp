@@ -16,7 +16,7 @@ int main(int anzahl, char** argumente)
     archiv.ProgrammVerzeichnis = waehleProgrammVerzeichnis(QCoreApplication::applicationDirPath()).toStdString();
     FensterBoxen boxen;
     SystemZwischenablage zwischenablage;
-    StandardDrucker drucker;
+    SystemDrucker drucker;
     SystemKlang klang;
     SystemOeffner oeffner;
     SystemUhr uhr;

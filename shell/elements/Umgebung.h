@@ -5,6 +5,7 @@
 
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 #include <chrono>
 #include <cstdint>
@@ -47,15 +48,20 @@ public:
     virtual QString text() const = 0;
 };
 
-/// The default printer of the system.
+/// The printers of the system.
 class Drucker {
 public:
     /// Paints the pages of a job.
     using Maler = std::function<void(QPainter&, QPagedPaintDevice&)>;
 
     virtual ~Drucker() = default;
-    /// Prints one job: `male` gets an active painter and the page device. False if there is no printer or it fails.
+    /// The default printer first.
+    virtual QStringList namen() const = 0;
+    /// Prints one job on the default printer: `male` gets an active painter and the page device. False if there is no
+    /// printer or it fails.
     virtual bool drucke(const QString& titel, const Maler& male) = 0;
+    /// The same on the printer of that name.
+    virtual bool druckeAuf(const QString& name, const QString& titel, const Maler& male) = 0;
 };
 
 class Klang {

@@ -1,5 +1,6 @@
 #include "tips/screens/GLOTTO.h"
 
+#include "archive/logic/Ziehungskalender.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
 #include "shell/elements/Farben.h"
 #include "shell/elements/Infotafel.h"
@@ -15,13 +16,12 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include <chrono>
-
 namespace {
 
 constexpr auto kDrucktitel = "** Computer Zufalls-Tip's **";
 constexpr auto kZeitreise = "frmLottoneu";
 constexpr int kJeReihe = 3;
+constexpr std::size_t kWochentag = 4; ///< "Sa, " before a date
 
 constexpr auto kInfo =
     "TIPPEN füllt die sechs Felder mit Zufallstips. Die Listen zeigen die Zahlen in der Ziehungsfolge "
@@ -35,13 +35,6 @@ std::vector<std::string> spalteAus(std::span<const std::int32_t> zahlen)
     for (const std::int32_t zahl : zahlen)
         zeilen.push_back(Format(std::to_string(zahl), "@@"));
     return zeilen;
-}
-
-std::string datum(const Uhr& uhr)
-{
-    const std::chrono::year_month_day heute = uhr.heute();
-    return Format(static_cast<unsigned>(heute.day()), "00") + "." + Format(static_cast<unsigned>(heute.month()), "00") +
-           "." + Format(static_cast<int>(heute.year()), "0000");
 }
 
 } // namespace
@@ -157,7 +150,10 @@ void GLOTTO::werteAus(std::size_t tip)
 
 void GLOTTO::drucke()
 {
-    Druckauftrag auftrag{.kopf = {kDrucktitel, datum(umgebung().uhr), ""}, .folgekopf = {}, .zeilen = {}, .masse = {}};
+    Druckauftrag auftrag{.kopf = {kDrucktitel, datumText(umgebung().uhr.heute()).substr(kWochentag), ""},
+                         .folgekopf = {},
+                         .zeilen = {},
+                         .masse = {}};
     for (std::size_t tip = 0; tip < kZufallstipps; ++tip)
         auftrag.zeilen.push_back(tipreihenzeile(tipps_, tip));
     druckeZeilen(*this, kDrucktitel, auftrag);

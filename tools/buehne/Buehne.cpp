@@ -13,7 +13,8 @@
 
 namespace {
 constexpr unsigned long kBedenkzeit = 20; ///< milliseconds before a box that comes back at once is answered again
-}
+constexpr auto kDruckername = "PDF-Drucker";
+} // namespace
 
 QString AufgezeichneteBoxen::antwort(const QStringList& passende, const QString& sonst)
 {
@@ -67,6 +68,16 @@ std::optional<QString> AufgezeichneteBoxen::datei(const DateiFrage& frage)
 std::vector<GezeigteBox> AufgezeichneteBoxen::entnehme()
 {
     return std::exchange(gezeigt_, {});
+}
+
+QStringList PdfDrucker::namen() const
+{
+    return datei_.isEmpty() ? QStringList() : QStringList(kDruckername);
+}
+
+bool PdfDrucker::druckeAuf(const QString& name, const QString& titel, const Maler& male)
+{
+    return name == kDruckername && drucke(titel, male);
 }
 
 bool PdfDrucker::drucke(const QString& titel, const Maler& male)

@@ -51,7 +51,9 @@ private:
 /// A default printer that writes a PDF file; without a file name there is no printer.
 class PdfDrucker final : public Drucker {
 public:
+    QStringList namen() const override;
     bool drucke(const QString& titel, const Maler& male) override;
+    bool druckeAuf(const QString& name, const QString& titel, const Maler& male) override;
     void setzeDatei(const QString& datei) { datei_ = datei; }
 
 private:

@@ -84,7 +84,7 @@ int main(int anzahl, char** argumente)
     bool zuEnde = false;
     steuerung.beiEnde = [&zuEnde] {
         zuEnde = true;
-        QCoreApplication::quit();
+        QCoreApplication::exit(); // a screen that stays open would hold up quit()
     };
     starteProgramm(buehne.umgebung);
     if (!zuEnde)

@@ -332,6 +332,7 @@ TEST_F(Fernsteuerungstest, EintraegeDesPopupsLassenSichAnklickenSolangeEsOffenIs
 {
     registriere("GLOTTO");
     starte();
+    buehne.bildschirme.geladen("frmLSTART")->findChild<QAction*>("mnuAnimat")->setEnabled(false);
     EXPECT_THAT(antwort("click mnuSchein"), ElementsAre("! mnuSchein ist verborgen"));
     EXPECT_THAT(skript({"click Befehl1", "click mnuAnimat", "click mnuSchein", "title"}),
                 ElementsAre("> click Befehl1", "> click mnuAnimat", "! mnuAnimat ist gesperrt", "> click mnuSchein",

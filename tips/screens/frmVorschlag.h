@@ -1,0 +1,60 @@
+#pragma once
+
+#include "shell/elements/Bildschirm.h"
+#include "tips/logic/Tippvorschlag.h"
+
+#include <array>
+
+class Lauf;
+class Tippanimation;
+class Tippfeld7x7View;
+
+/// Tips from Bankzahlen, from numbers that the statistics of the draws name, and from random numbers.
+class frmVorschlag final : public Bildschirm {
+public:
+    explicit frmVorschlag(Umgebung& umgebung);
+
+    void beimZeigen() override;
+    bool kehrtZumMenueZurueck() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* ereignis) override;
+    void closeEvent(QCloseEvent* ereignis) override;
+
+private:
+    QLayout* baueWuensche();
+    QGroupBox* baueStatistiken();
+    void verbinde();
+
+    void erzeuge();
+    void erzeugeTipps(Lauf& lauf, const Tippwunsch& wunsch);
+    Tippwunsch leseWunsch();
+    Statistikliste wochenliste();
+    Statistikliste haeufigkeitsliste();
+    Statistikliste abwesenheitsliste();
+
+    void fuegeHinzu(const Kombination& tip);
+    void fuegeFestenTippHinzu();
+    void zeigeTipp();
+    void vergroessereStatistiken();
+    void schalteBankzahlen();
+    void kopiere();
+    void uebergib();
+    void zeigeTippschein();
+    std::size_t anzahl() const;
+
+    std::vector<Kombination> tipps_;
+    bool ungespeichert_ = false;
+    bool uebergeben_ = false;             ///< the slip has taken over, and leads back to the menu
+    Tippanimation* animation_ = nullptr;  ///< of the run in hand
+    std::array<QCheckBox*, 5> kontrolle_; ///< Kontroll1 to Kontroll5
+    std::array<QComboBox*, 2> cmbB;
+    std::array<QLabel*, 2> lblBank;
+    QComboBox *Kombi1, *Kombi2;
+    std::array<Liste*, 3> statistiken_; ///< Liste1 to Liste3
+    std::array<QLabel*, 3> statistiktitel_;
+    Liste* Liste4;
+    Tippfeld7x7View* Bezeichnung100;
+    QLabel *Label1, *Bezeichnung4, *Bezeichnung5, *Bezeichnung10, *Rahmen7;
+    QPushButton *Befehl1, *Befehl2, *Befehl4, *Befehl5, *Command1;
+};
