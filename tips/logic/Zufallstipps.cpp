@@ -4,12 +4,27 @@
 
 #include <algorithm>
 
-Kombination Zufallstipps::kombination(std::size_t tip) const
+namespace {
+
+Kombination geordnet(const std::array<int, 6>& gezogen)
 {
     Kombination zahlen{};
-    std::ranges::copy(tipps[tip], zahlen.begin());
+    std::ranges::copy(gezogen, zahlen.begin());
     std::ranges::sort(zahlen);
     return zahlen;
+}
+
+} // namespace
+
+Kombination zufallstipp(Zufall& zufall, double saat)
+{
+    zufall.Randomize(saat);
+    return geordnet(sechsZahlen(zufall));
+}
+
+Kombination Zufallstipps::kombination(std::size_t tip) const
+{
+    return geordnet(tipps[tip]);
 }
 
 void makeTips(Zufallstipps& zufallstipps, Zufall& zufall, double sekunden)

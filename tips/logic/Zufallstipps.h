@@ -8,6 +8,9 @@
 #include <cstdint>
 #include <string>
 
+/// A tip of six random numbers, ascending. `saat` stirs the random numbers.
+Kombination zufallstipp(Zufall& zufall, double saat);
+
 inline constexpr std::size_t kZufallstipps = 6;
 
 /// Six tips by chance, and how often each number came in these and all made before.

@@ -8,14 +8,13 @@
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Zahlen.h"
+#include "tips/logic/Zufallstipps.h"
 #include "tips/screens/Kugelreihe.h"
 
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
-
-#include <algorithm>
 
 namespace {
 
@@ -25,15 +24,6 @@ constexpr int kZeilen = 18;
 constexpr int kZeichen = 26;
 constexpr int kVorgabe = 3; ///< tenths of a second
 constexpr int kLaengste = 30;
-
-Kombination zufallstip(Umgebung& umgebung, std::int32_t runde)
-{
-    umgebung.zufall.Randomize(umgebung.uhr.Timer() * runde);
-    Kombination tip{};
-    std::ranges::copy(sechsZahlen(umgebung.zufall), tip.begin());
-    std::ranges::sort(tip);
-    return tip;
-}
 
 } // namespace
 
@@ -92,7 +82,7 @@ void frmKugel1::starteOderStoppe()
     Befehl3->setEnabled(false);
     Befehl1->setText("Stop");
     for (std::int32_t runde = 1; warte(lauf, verzoegerung()); ++runde) {
-        const Kombination tip = zufallstip(umgebung(), runde);
+        const Kombination tip = zufallstipp(umgebung().zufall, umgebung().uhr.Timer() * runde);
         if (!zeigeTip(lauf, tip))
             break;
         Liste1->modell().AddItem(zahlentext(tip));

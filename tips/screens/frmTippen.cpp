@@ -5,23 +5,22 @@
 #include "shell/elements/Liste.h"
 #include "shell/elements/Utf8.h"
 #include "shell/logic/Dateien.h"
-#include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
 #include "tips/logic/Tippscheindatei.h"
 #include "tips/logic/Tippscheinname.h"
 #include "tips/logic/Tippzeile.h"
+#include "tips/logic/Zufallstipps.h"
+#include "tips/screens/Scheinjustage.h"
+#include "tips/screens/Scheinwahlfeld.h"
 #include "tips/screens/Spielscheinbild.h"
 #include "tips/screens/Spielscheinmaler.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -45,10 +44,6 @@ constexpr auto kInfo =
 constexpr auto kSchreibfehler = "Fehler beim Schreiben! Mögliche Ursachen:\n"
                                 "1. Der aktuelle Ordner befindet sich auf einen schreibgeschützten Datenträger.\n"
                                 "2. Sie besitzen keine Rechte um in diesen Ordner zu schreiben.";
-constexpr auto kJustage = "Die Druckausgabe kann mit den beiden ScrollBars in 0,1 mm Schritten horizontal und "
-                          "vertikal justiert werden";
-constexpr std::array kJaNein{"Ja", "Nein"};
-constexpr std::array kLaufzeittexte{"1", "2", "3", "4", "5", "13 alt", "Ja"};
 constexpr int kZeichen = 30;
 
 /// "Tippliste_21.11.2026 19-30-05.txt".
@@ -58,11 +53,6 @@ std::string listenname(const Uhr& uhr)
     std::string zeit = uhrtext(static_cast<std::int64_t>(uhr.Timer()));
     std::ranges::replace(zeit, ':', '-');
     return "Tippliste_" + datumText(uhr.heute()).substr(kWochentag) + " " + zeit + ".txt";
-}
-
-template <std::size_t N> std::size_t stelle(const std::array<QRadioButton*, N>& wahl)
-{
-    return static_cast<std::size_t>(std::ranges::find_if(wahl, &QRadioButton::isChecked) - wahl.begin());
 }
 
 /// The origin of the crosses is the corner of the paper, whatever margin the printer has.
@@ -80,7 +70,8 @@ void maleAufPapier(QPainter& maler, const QPagedPaintDevice& papier, const std::
 
 frmTippen::frmTippen(Umgebung& umgebung) : Bildschirm(umgebung, "frmTippen", kTitel)
 {
-    Picture1 = new Spielscheinbild("Picture1", this);
+    justage_ = new Scheinjustage(this);
+    wahl_ = new Scheinwahlfeld(this);
     Command1 = befehl("Command1", "&Info");
     Command2 = befehl("Command2", "<<", hinweis("Zum Startmenü"));
     Command10 = befehl("Command10", "&Drucken");
@@ -91,83 +82,17 @@ frmTippen::frmTippen(Umgebung& umgebung) : Bildschirm(umgebung, "frmTippen", kTi
     // clang-format off
     setzeInhalt(spalte({
         dehnbar(zeile({
-            dehnbar(baueBild()),
+            dehnbar(spalte({dehnbar(justage_), wahl_})),
             baueListe(),
         })),
         zeile({Command10, cmdTippliste, luecke(), cmdBild, Command1, Command2}),
     }));
     // clang-format on
-    stelleEin(liesDruckeinstellungen(umgebung.archiv.ProgrammVerzeichnis));
     verbinde();
-    zeigeVersatz();
+    const Druckeinstellungen einstellungen = liesDruckeinstellungen(umgebung.archiv.ProgrammVerzeichnis);
+    justage_->stelle(einstellungen.versatz);
+    wahl_->stelle(einstellungen);
     zeichne();
-}
-
-template <std::size_t N>
-Bloecke frmTippen::baueOptionen(std::array<QRadioButton*, N>& wahl, const QString& name,
-                                const std::array<const char*, N>& texte)
-{
-    Bloecke bloecke;
-    for (std::size_t i = 0; i < N; ++i) {
-        wahl[i] = option(QString("%1(%2)").arg(name).arg(i), texte[i]);
-        bei(wahl[i], [this] { zeichne(); });
-        bloecke.emplace_back(wahl[i]);
-    }
-    return bloecke;
-}
-
-QGroupBox* frmTippen::baueLaufzeit()
-{
-    Bloecke bloecke = baueOptionen(Option4, "Option4", kLaufzeittexte);
-    bloecke.insert(bloecke.end() - 1, bezeichnung("Label3", "Dauerspiel:"));
-    return rahmen("Frame4", "Laufzeit ", zeile(bloecke));
-}
-
-QLayout* frmTippen::baueWahl()
-{
-    Check1 = kontroll("Check1", "Samstag");
-    Check2 = kontroll("Check2", "Mittwoch");
-    // clang-format off
-    return spalte({
-        zeile({
-            rahmen("Frame3", "Spielart", zeile({Check1, Check2})),
-            baueLaufzeit(),
-            luecke(),
-        }),
-        zeile({
-            rahmen("Frame2", "Spiel 77", zeile(baueOptionen(Option1, "Option1", kJaNein))),
-            rahmen("Frame1", "Super 6", zeile(baueOptionen(Option3, "Option3", kJaNein))),
-            rahmen("Frame5", "Glücksspirale", zeile(baueOptionen(chkGlueck, "chkGlueck", kJaNein))),
-            luecke(),
-        }),
-    });
-    // clang-format on
-}
-
-QLayout* frmTippen::baueBild()
-{
-    HScroll1 = new QScrollBar(Qt::Horizontal, this);
-    VScroll1 = new QScrollBar(Qt::Vertical, this);
-    HScroll1->setObjectName("HScroll1");
-    VScroll1->setObjectName("VScroll1");
-    for (QScrollBar* leiste : {HScroll1, VScroll1}) {
-        leiste->setRange(-kGroessterVersatz, kGroessterVersatz);
-        leiste->setFocusPolicy(Qt::StrongFocus);
-        setzeHinweis(leiste, kJustage);
-    }
-    Label1 = bezeichnung("Label1");
-    Label2 = bezeichnung("Label2");
-    Command3 = befehl("Command3", "S",
-                      hinweis("Nach einer Justierung der Druckausgabe kann die Position des Spielscheins auf dem "
-                              "Screen ausgerichtet werden."));
-    // clang-format off
-    return spalte({
-        dehnbar(zeile({dehnbar(Picture1), VScroll1})),
-        zeile({dehnbar(HScroll1), Command3}),
-        zeile({Label1, Label2, luecke()}),
-        baueWahl(),
-    });
-    // clang-format on
 }
 
 QLayout* frmTippen::baueListe()
@@ -204,16 +129,10 @@ QLayout* frmTippen::baueListe()
 
 void frmTippen::verbinde()
 {
-    for (QCheckBox* tag : {Check1, Check2})
-        bei(tag, [this] { zeichne(); });
-    for (QScrollBar* leiste : {HScroll1, VScroll1})
-        connect(leiste, &QScrollBar::valueChanged, this, [this] {
-            zeigeVersatz();
-            zeichne();
-        });
+    justage_->beiVersatz = [this] { zeichne(); };
+    wahl_->beiWahl = [this] { zeichne(); };
     bei(Command1, [this] { umgebung().boxen.info(kInfotitel, kInfo); });
     bei(Command2, [this] { schliesse(); });
-    bei(Command3, [this] { Picture1->rueckeSchein(versatz()); });
     bei(Command4, [this] { zeigeDateien(); });
     bei(Command6, [this] { uebernimmDatei(); });
     bei(Command10, [this] { drucke(); });
@@ -241,37 +160,12 @@ void frmTippen::beimSchliessen()
 {
     if (Bildschirm* bild = umgebung().bildschirme->geladen("frmInfo"))
         bild->schliesse();
-    const Scheinwahl gewaehlt = wahl();
-    schreibeDruckeinstellungen(umgebung().archiv.ProgrammVerzeichnis, {.versatz = versatz(),
+    const Scheinwahl gewaehlt = wahl_->wahl();
+    schreibeDruckeinstellungen(umgebung().archiv.ProgrammVerzeichnis, {.versatz = justage_->versatz(),
                                                                        .spiel77 = gewaehlt.spiel77,
                                                                        .super6 = gewaehlt.super6,
                                                                        .gluecksspirale = gewaehlt.gluecksspirale,
                                                                        .laufzeit = gewaehlt.laufzeit});
-}
-
-void frmTippen::stelleEin(const Druckeinstellungen& einstellungen)
-{
-    HScroll1->setValue(einstellungen.versatz.waagerecht);
-    VScroll1->setValue(einstellungen.versatz.senkrecht);
-    Option1[einstellungen.spiel77 ? 0 : 1]->setChecked(true);
-    Option3[einstellungen.super6 ? 0 : 1]->setChecked(true);
-    chkGlueck[einstellungen.gluecksspirale ? 0 : 1]->setChecked(true);
-    Option4[static_cast<std::size_t>(einstellungen.laufzeit)]->setChecked(true);
-}
-
-Scheinwahl frmTippen::wahl() const
-{
-    return {.samstag = Check1->isChecked(),
-            .mittwoch = Check2->isChecked(),
-            .spiel77 = Option1[0]->isChecked(),
-            .super6 = Option3[0]->isChecked(),
-            .gluecksspirale = chkGlueck[0]->isChecked(),
-            .laufzeit = static_cast<Laufzeit>(stelle(Option4))};
-}
-
-Scheinversatz frmTippen::versatz() const
-{
-    return {.waagerecht = HScroll1->value(), .senkrecht = VScroll1->value()};
 }
 
 std::vector<Kombination> frmTippen::tipps() const
@@ -282,15 +176,14 @@ std::vector<Kombination> frmTippen::tipps() const
     return tipps;
 }
 
-void frmTippen::zeichne()
+std::vector<Scheinort> frmTippen::kreuze() const
 {
-    Picture1->zeige(layoutSlip(tipps(), wahl(), versatz()));
+    return layoutSlip(tipps(), wahl_->wahl(), justage_->versatz());
 }
 
-void frmTippen::zeigeVersatz()
+void frmTippen::zeichne()
 {
-    Label1->setText("Versatz horizontal (mm): " + qt(Dezimaltext(HScroll1->value() / 10.0, 1)));
-    Label2->setText("Versatz vertikal (mm): " + qt(Dezimaltext(VScroll1->value() / 10.0, 1)));
+    justage_->bild().zeige(kreuze());
 }
 
 void frmTippen::zeigeTipps(std::vector<std::string> zeilen)
@@ -310,11 +203,8 @@ void frmTippen::erzeugeQuicktipps()
 {
     std::vector<std::string> zeilen;
     for (int k = 1; k <= Combo1->currentIndex() + 1; ++k) {
-        umgebung().zufall.Randomize(umgebung().uhr.Timer() * k);
-        Kombination tip{};
-        std::ranges::copy(sechsZahlen(umgebung().zufall), tip.begin());
-        std::ranges::sort(tip);
-        zeilen.push_back(quicktippzeile(static_cast<std::size_t>(k), tip));
+        const Kombination tipp = zufallstipp(umgebung().zufall, umgebung().uhr.Timer() * k);
+        zeilen.push_back(quicktippzeile(static_cast<std::size_t>(k), tipp));
     }
     zeigeTipps(std::move(zeilen));
 }
@@ -367,11 +257,12 @@ bool frmTippen::darfDrucken()
         umgebung().boxen.info("Error", "Sie haben keinen Drucker ausgewählt!");
         return false;
     }
-    if (!Check1->isChecked() && !Check2->isChecked()) {
+    const Scheinwahl wahl = wahl_->wahl();
+    if (!wahl.samstag && !wahl.mittwoch) {
         umgebung().boxen.info(kProgrammtitel, kKeineSpielart);
         return false;
     }
-    return umgebung().boxen.frage(kAbfrage, qt(druckfrage(wahl(), tipps().size(), utf8(Combo2->currentText()))));
+    return umgebung().boxen.frage(kAbfrage, qt(druckfrage(wahl, tipps().size(), utf8(Combo2->currentText()))));
 }
 
 void frmTippen::drucke()
@@ -379,10 +270,10 @@ void frmTippen::drucke()
     folgeDruckern();
     if (!darfDrucken())
         return;
-    const std::vector<Scheinort> kreuze = layoutSlip(tipps(), wahl(), versatz());
-    const bool gedruckt = umgebung().drucker.druckeAuf(
-        Combo2->currentText(), kTitel,
-        [&kreuze](QPainter& maler, QPagedPaintDevice& papier) { maleAufPapier(maler, papier, kreuze); });
+    const bool gedruckt =
+        umgebung().drucker.druckeAuf(Combo2->currentText(), kTitel, [this](QPainter& maler, QPagedPaintDevice& papier) {
+            maleAufPapier(maler, papier, kreuze());
+        });
     if (gedruckt)
         melde("Der Tippschein wurde gedruckt.");
     else

@@ -11,9 +11,7 @@
 #include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
 #include "statistics/logic/Spielwochen.h"
-#include "statistics/screens/frmSTAT1.h"
-#include "statistics/screens/frmSWH.h"
-#include "statistics/screens/frmZuletzt.h"
+#include "tips/screens/Statistikquelle.h"
 #include "tips/screens/Tippanimation.h"
 #include "tips/screens/frmTA.h"
 
@@ -238,50 +236,29 @@ Tippwunsch frmVorschlag::leseWunsch()
         return kontrolle_[i + 3]->isChecked() ? std::optional(cmbB[i]->currentIndex() + 1) : std::nullopt;
     };
     Tippwunsch wunsch{.bank1 = bank(0), .bank2 = bank(1), .statistiken = {}};
-    const std::array lies{&frmVorschlag::wochenliste, &frmVorschlag::haeufigkeitsliste,
-                          &frmVorschlag::abwesenheitsliste};
-    const QScopedValueRollback vorschlag(umgebung().VorschlagLaeuft, true);
-    for (std::size_t i = 0; i < lies.size(); ++i) {
+    Statistikquelle quelle(umgebung());
+    for (std::size_t i = 0; i < statistiken_.size(); ++i) {
         statistiken_[i]->modell().Clear();
-        if (!kontrolle_[i]->isChecked())
-            continue;
-        wunsch.statistiken.push_back((this->*lies[i])());
-        statistiken_[i]->modell().fuelle(texte(wunsch.statistiken.back()));
-        statistiken_[i]->zeigeZeile(wunsch.statistiken.back().besteZuletzt ? statistiken_[i]->zeilenzahl() - 1 : 0);
+        if (kontrolle_[i]->isChecked())
+            wunsch.statistiken.push_back(zeigeStatistik(quelle, i));
     }
     return wunsch;
 }
 
-Statistikliste frmVorschlag::wochenliste()
+Statistikliste frmVorschlag::zeigeStatistik(Statistikquelle& quelle, std::size_t stelle)
 {
-    const int sw = Kombi2->currentIndex() + 1;
-    statistiktitel_[0]->setText("SW" + Kombi2->currentText());
-    auto& quelle = umgebung().bildschirme->lade<frmSWH>("frmSWH");
-    quelle.werteAus(sw, false);
-    Statistikliste liste = fillWochenListe(quelle.ergebnis());
-    quelle.schliesse();
-    return liste;
-}
-
-/// The B game has no new tips: what its screens hold before any button is pressed is taken.
-Statistikliste frmVorschlag::haeufigkeitsliste()
-{
-    auto& quelle = umgebung().bildschirme->lade<frmSTAT1>("frmSTAT1");
-    if (umgebung().archiv.Spielart != MittwochslottoB)
-        quelle.werteAus(ZZModus::Ohne);
-    Statistikliste liste = fillHaeufigkeitListe(quelle.ergebnis().haeufigkeit);
-    quelle.schliesse();
-    return liste;
-}
-
-Statistikliste frmVorschlag::abwesenheitsliste()
-{
-    auto& quelle = umgebung().bildschirme->lade<frmZuletzt>("frmZuletzt");
-    if (umgebung().archiv.Spielart != MittwochslottoB)
-        quelle.werteAus(ZZModus::Ohne);
-    Statistikliste liste = fillAbwesenheitListe(quelle.ergebnis());
-    quelle.schliesse();
-    return liste;
+    const std::array<std::function<Statistikliste()>, 3> lies{
+        [&] { return quelle.wochenliste(Kombi2->currentIndex() + 1); },
+        [&] { return quelle.haeufigkeitsliste(); },
+        [&] { return quelle.abwesenheitsliste(); },
+    };
+    Statistikliste statistik = lies[stelle]();
+    Liste& anzeige = *statistiken_[stelle];
+    anzeige.modell().fuelle(texte(statistik));
+    anzeige.zeigeZeile(statistik.besteZuletzt ? anzeige.zeilenzahl() - 1 : 0);
+    if (stelle == 0)
+        statistiktitel_[0]->setText("SW" + Kombi2->currentText());
+    return statistik;
 }
 
 void frmVorschlag::fuegeHinzu(const Kombination& tip)

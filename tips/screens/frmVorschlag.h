@@ -6,6 +6,7 @@
 #include <array>
 
 class Lauf;
+class Statistikquelle;
 class Tippanimation;
 class Tippfeld7x7View;
 
@@ -29,9 +30,8 @@ private:
     void erzeuge();
     void erzeugeTipps(Lauf& lauf, const Tippwunsch& wunsch);
     Tippwunsch leseWunsch();
-    Statistikliste wochenliste();
-    Statistikliste haeufigkeitsliste();
-    Statistikliste abwesenheitsliste();
+    /// Lists a statistic, of those in sight the one at `stelle` 0..2, and gives it.
+    Statistikliste zeigeStatistik(Statistikquelle& quelle, std::size_t stelle);
 
     void fuegeHinzu(const Kombination& tip);
     void fuegeFestenTippHinzu();
