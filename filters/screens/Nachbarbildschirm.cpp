@@ -6,8 +6,8 @@
 #include "listcontrol/screens/ListView.h"
 #include "reports/frame/Seitenablage.h"
 #include "shell/elements/Lauf.h"
-#include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
+#include "shell/elements/Zaehlerfeld.h"
 #include "shell/logic/Dateien.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
@@ -64,11 +64,7 @@ Nachbarbildschirm::Nachbarbildschirm(Umgebung& umgebung, const Nachbarbildschirm
 {
     for (std::size_t i = 0; i < kNamen.size(); ++i) {
         suchknopf(kNamen[i].knopf, texte.knoepfe[i], kNachbargruppen[i])->setToolTip(kNamen[i].hinweis);
-        QLineEdit* anzahl = textfeld(kNamen[i].anzahl, "0");
-        alsAnzeige(anzahl);
-        anzahl->setAlignment(Qt::AlignRight);
-        anzahl->setFixedWidth(anzahl->fontMetrics().horizontalAdvance("0000000"));
-        starts_.back().anzahl = anzahl;
+        starts_.back().anzahl = alsZaehler(textfeld(kNamen[i].anzahl, "0"));
     }
     baueListe();
     Bezeichnung6 = bezeichnung("Bezeichnung6");

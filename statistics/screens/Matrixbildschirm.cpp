@@ -3,11 +3,11 @@
 #include "archive/screens/Spielartenwahl.h"
 #include "listcontrol/screens/Farbwandel.h"
 #include "listcontrol/screens/ListView.h"
-#include "shell/elements/Farben.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Stil.h"
 #include "shell/elements/Utf8.h"
 #include "shell/elements/ZZModusOptionen.h"
+#include "statistics/screens/Legende.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -32,14 +32,6 @@ int spalteVon(std::size_t stelle)
 bool istTrenner(int spalte)
 {
     return spalte % 2 == 1;
-}
-
-/// A label in the colours that it explains.
-QLabel* alsLegende(QLabel* feld, const Farbpaar& farben)
-{
-    faerbe(feld, qt(farben.grund), qt(farben.schrift));
-    feld->setMargin(Stil::kEng);
-    return feld;
 }
 
 } // namespace
@@ -82,8 +74,10 @@ void Matrixbildschirm::ordneAn(const Matrixtexte& texte)
     if (texte.ueberschrift)
         liste.emplace(liste.begin(), bezeichnung("lblHeader", texte.ueberschrift));
 
-    QLabel* maxima = alsLegende(bezeichnung("lblMaxima", texte.maxima), kMatrixMaximum);
-    QLabel* minima = alsLegende(bezeichnung("lblMinima", texte.minima), kMatrixMinimum);
+    QLabel* maxima = bezeichnung("lblMaxima", texte.maxima);
+    QLabel* minima = bezeichnung("lblMinima", texte.minima);
+    alsLegende(maxima, qt(kMatrixMaximum.grund), qt(kMatrixMaximum.schrift));
+    alsLegende(minima, qt(kMatrixMinimum.grund), qt(kMatrixMinimum.schrift));
     auto* Command3 = befehl("Command3", ">>", hinweis("Beenden und zurück zum Auswahlmenü."));
     bei(Command3, [this] { schliesse(); });
     Bloecke fuss{maxima, minima, luecke(), Command3};

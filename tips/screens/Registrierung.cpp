@@ -5,13 +5,13 @@
 #include "tips/screens/GLottoneu.h"
 #include "tips/screens/frmInfo.h"
 #include "tips/screens/frmKugel1.h"
-#include "tips/screens/frmSSA.h"
 #include "tips/screens/frmLottoneu.h"
 #include "tips/screens/frmLottoneu_alt_mitZZ.h"
+#include "tips/screens/frmSSA.h"
 #include "tips/screens/frmTA.h"
-#include "tips/screens/frmZusammenLottoneu.h"
 #include "tips/screens/frmTippen.h"
 #include "tips/screens/frmVorschlag.h"
+#include "tips/screens/frmZusammenLottoneu.h"
 
 void registriereTippbildschirme(BildschirmVerzeichnis& verzeichnis)
 {

@@ -6,6 +6,7 @@
 #include "shell/elements/Stil.h"
 #include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
+#include "shell/elements/Zaehlerfeld.h"
 #include "shell/elements/Zeilendruck.h"
 #include "shell/logic/Format.h"
 #include "shell/logic/Meldung.h"
@@ -131,10 +132,7 @@ void frmSSA::baueZaehler()
     Bezeichnung6 = new Tippfeld7x7View("Bezeichnung6", Tippfeld7x7View::Art::NurAnzeige, this);
     Bloecke paare;
     for (std::size_t i = 0; i < zaehler_.size(); ++i) {
-        zaehler_[i] = textfeld(kZaehler[i].name);
-        alsAnzeige(zaehler_[i]);
-        zaehler_[i]->setAlignment(Qt::AlignRight);
-        zaehler_[i]->setFixedWidth(zaehler_[i]->fontMetrics().horizontalAdvance("0000000000"));
+        zaehler_[i] = alsZaehler(textfeld(kZaehler[i].name));
         paare.emplace_back(bezeichnung("lbl" + zaehler_[i]->objectName().mid(3), kZaehler[i].text));
         paare.emplace_back(zaehler_[i]);
         if (i == 0)

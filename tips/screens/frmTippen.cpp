@@ -196,6 +196,7 @@ void frmTippen::zeigeTipps(std::vector<std::string> zeilen)
 
 void frmTippen::nimmTippzeilen(const std::vector<std::string>& zeilen)
 {
+    vomTippschein_ = true;
     zeigeTipps(zeilen);
 }
 

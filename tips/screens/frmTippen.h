@@ -14,6 +14,8 @@ public:
 
     void nimmTippzeilen(const std::vector<std::string>& zeilen) override;
     void beimZeigen() override;
+    /// The slip that has handed its tips over stays open below.
+    bool kehrtZumMenueZurueck() const override { return !vomTippschein_; }
 
 protected:
     void beimSchliessen() override;
@@ -35,6 +37,7 @@ private:
     std::vector<Kombination> tipps() const;
     std::vector<Scheinort> kreuze() const;
 
+    bool vomTippschein_ = false;
     Scheinjustage* justage_;
     Scheinwahlfeld* wahl_;
     Liste *List1, *File1;

@@ -2,7 +2,6 @@
 
 #include "listcontrol/logic/concat.h"
 #include "shell/elements/BildschirmVerzeichnis.h"
-#include "shell/elements/Doppelklick.h"
 #include "shell/elements/Lauf.h"
 #include "shell/elements/Liste.h"
 #include "shell/elements/Stil.h"
@@ -11,6 +10,7 @@
 #include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
 #include "statistics/logic/Spielwochen.h"
+#include "tips/screens/Felder.h"
 #include "tips/screens/Statistikquelle.h"
 #include "tips/screens/Tippanimation.h"
 #include "tips/screens/frmTA.h"
@@ -77,9 +77,9 @@ std::vector<std::string> texte(const Statistikliste& liste)
 
 frmVorschlag::frmVorschlag(Umgebung& umgebung) : Bildschirm(umgebung, "frmVorschlag", kTitel)
 {
-    Bezeichnung5 = bezeichnung("Bezeichnung5");
+    Bezeichnung5 = benannt(new Klickfeld(this), "Bezeichnung5");
     Bezeichnung10 = bezeichnung("Bezeichnung10");
-    Bezeichnung4 = bezeichnung("Bezeichnung4", "Statistiken, die einbezogen wurden:");
+    Bezeichnung4 = benannt(new Klickfeld("Statistiken, die einbezogen wurden:", this), "Bezeichnung4");
     Rahmen7 = bezeichnung("Rahmen7");
     alsUeberschrift(Bezeichnung5);
     Liste4 = liste("Liste4");
@@ -176,8 +176,8 @@ void frmVorschlag::verbinde()
     bei(Befehl5, [this] { erzeuge(); });
     bei(Command1, [this] { umgebung().boxen.info(kInfotitel, kInfo); });
     Liste4->beiAuswahl = [this] { zeigeTipp(); };
-    beiDoppelklick(Bezeichnung4, [this] { vergroessereStatistiken(); });
-    beiDoppelklick(Bezeichnung5, [this] { fuegeFestenTippHinzu(); });
+    Bezeichnung4->beiDoppelklick = [this] { vergroessereStatistiken(); };
+    Bezeichnung5->beiDoppelklick = [this] { fuegeFestenTippHinzu(); };
 }
 
 void frmVorschlag::beimZeigen()

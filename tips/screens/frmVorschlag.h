@@ -5,6 +5,7 @@
 
 #include <array>
 
+class Klickfeld;
 class Lauf;
 class Statistikquelle;
 class Tippanimation;
@@ -55,6 +56,7 @@ private:
     std::array<QLabel*, 3> statistiktitel_;
     Liste* Liste4;
     Tippfeld7x7View* Bezeichnung100;
-    QLabel *Label1, *Bezeichnung4, *Bezeichnung5, *Bezeichnung10, *Rahmen7;
+    Klickfeld *Bezeichnung4, *Bezeichnung5; ///< headings
+    QLabel *Label1, *Bezeichnung10, *Rahmen7;
     QPushButton *Befehl1, *Befehl2, *Befehl4, *Befehl5, *Command1;
 };

@@ -1,3 +1,4 @@
+#include "shell/elements/Bildschirm.h"
 #include "shell/logic/IniDatei.h"
 #include "tips/logic/Spielscheindruck.h"
 #include "tips/tests/Tipptest.h"
@@ -205,6 +206,9 @@ TEST_F(Scheindruck, DieTippsDesTippscheinsStehenInDerListe)
     klicke("Command1");
     bedienung.benutze("frmTippen");
     EXPECT_EQ(liste(), QStringList({"            1  8 15 22 29 36"}));
+    klicke("Command2");
+    EXPECT_EQ(bedienung.aktuell()->name(), "frmTA");
+    EXPECT_FALSE(buehne.bildschirme.geladen("frmLSTART")->isVisible());
 }
 
 TEST_F(Scheindruck, DieTipplisteWirdGespeichert)
