@@ -18,16 +18,13 @@
 namespace {
 
 constexpr auto kInfo =
-    "Das Programm erzeugt alle Kombinationen von 2 bis 6 Zahlen aus 49 und schreibt sie in Textdateien, eine "
-    "Kombination "
-    "in jede Zeile.\n\n"
+    "Das Programm erzeugt alle Kombinationen von 2 bis 6 Zahlen aus 49 und schreibt sie in Textdateien, in jede Zeile "
+    "eine Kombination.\n\n"
     "Die Datei aller 13.983.816 Kombinationen 6aus49 wird bis zu 540 MB groß. Der einfache Editor des Systems kann "
-    "eine "
-    "so große Datei nicht öffnen. Deshalb lassen sich die Kombinationen 6aus49 und 5aus49 auch auf mehrere Teildateien "
-    "mit je 200.000 Zeilen verteilen.\n\n"
+    "eine so große Datei nicht öffnen. Deshalb lassen sich die Kombinationen 6aus49 und 5aus49 auch auf mehrere "
+    "Teildateien mit je 200.000 Zeilen verteilen.\n\n"
     "Mit Bankzahlen werden nur die Kombinationen geschrieben, in denen alle ausgewählten Bankzahlen enthalten sind, "
-    "mit "
-    "einem Bereich nur die, deren Zahlen alle in ihm liegen.\n\n"
+    "mit einem Bereich nur die, deren Zahlen alle in ihm liegen.\n\n"
     "Eine Datei bekommt ihren Namen erst, wenn sie fertig ist. Nach einem Abbruch bleiben die fertigen Teildateien.";
 
 constexpr std::array kGroessen{"2aus49", "3aus49", "4aus49", "5aus49", "6aus49"};

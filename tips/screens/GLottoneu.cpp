@@ -91,6 +91,9 @@ QLayout* GLottoneu::baueEingabe()
     Text7 = textfeld("Text7", "10000");
     Text7->setAlignment(Qt::AlignRight);
     Text7->setFixedWidth(Text7->fontMetrics().horizontalAdvance("0000000000000"));
+    QLabel* spannentext =
+        bezeichnung("Bezeichnung8", "Die ausgewählte Anzahl von Ziehungen entspricht einer Zeitspanne von ca:");
+    spannentext->setWordWrap(true);
     Text12 = alsZaehler(textfeld("Text12"));
     Text13 = alsZaehler(textfeld("Text13"));
     Text14 = alsZaehler(textfeld("Text14"));
@@ -101,8 +104,7 @@ QLayout* GLottoneu::baueEingabe()
         rahmen("Rahmen2", "Anzahl der Ziehungen", spalte({
             zeile({bezeichnung("Bezeichnung7", "Ziehungen:"), Text7, luecke()}),
             eng(spalte({
-                bezeichnung("Bezeichnung8", "Die ausgewählte Anzahl von Ziehungen"),
-                bezeichnung("Bezeichnung9", "entspricht einer Zeitspanne von ca:"),
+                spannentext,
                 formular({
                     {bezeichnung("Bezeichnung10", "Jahre"), Text12},
                     {bezeichnung("Bezeichnung11", "Monate"), Text13},

@@ -137,7 +137,7 @@ void frmTippen::verbinde()
     bei(Command6, [this] { uebernimmDatei(); });
     bei(Command10, [this] { drucke(); });
     bei(Command11, [this] { erzeugeQuicktipps(); });
-    bei(cmdTippliste, [this] { speichereListe(); });
+    bei(cmdTippliste, [this] { saveTipList(); });
     bei(cmdBild, [this] { umgebung().bildschirme->oeffne("frmInfo"); });
 }
 
@@ -236,7 +236,7 @@ void frmTippen::uebernimmDatei()
     zeigeTipps(tippzeilen(tippreihenAus(gelesen)));
 }
 
-void frmTippen::speichereListe()
+void frmTippen::saveTipList()
 {
     if (List1->zeilenzahl() == 0) {
         umgebung().boxen.info(kProgrammtitel, "Die Tippliste ist leer!");

@@ -29,7 +29,7 @@ private:
     void erzeugeQuicktipps();
     void zeigeDateien();
     void uebernimmDatei();
-    void speichereListe();
+    void saveTipList();
     void folgeDruckern();
     void drucke();
     bool darfDrucken();

@@ -77,9 +77,9 @@ std::vector<std::string> texte(const Statistikliste& liste)
 
 frmVorschlag::frmVorschlag(Umgebung& umgebung) : Bildschirm(umgebung, "frmVorschlag", kTitel)
 {
-    Bezeichnung5 = benannt(new Klickfeld(this), "Bezeichnung5");
+    Bezeichnung5 = ::benannt(new Klickfeld(this), "Bezeichnung5");
     Bezeichnung10 = bezeichnung("Bezeichnung10");
-    Bezeichnung4 = benannt(new Klickfeld("Statistiken, die einbezogen wurden:", this), "Bezeichnung4");
+    Bezeichnung4 = ::benannt(new Klickfeld("Statistiken, die einbezogen wurden:", this), "Bezeichnung4");
     Rahmen7 = bezeichnung("Rahmen7");
     alsUeberschrift(Bezeichnung5);
     Liste4 = liste("Liste4");
@@ -205,7 +205,7 @@ void frmVorschlag::erzeuge()
     Rahmen7->show();
     tipps_.clear();
     Liste4->modell().Clear();
-    erzeugeTipps(lauf, leseWunsch());
+    generateTips(lauf, leseWunsch());
     Rahmen7->hide();
     Liste4->modell().SetListIndex(static_cast<std::ptrdiff_t>(tipps_.size()) - 1);
     zeigeTipp();
@@ -214,7 +214,7 @@ void frmVorschlag::erzeuge()
     ungespeichert_ = !tipps_.empty() && !schliesst();
 }
 
-void frmVorschlag::erzeugeTipps(Lauf& lauf, const Tippwunsch& wunsch)
+void frmVorschlag::generateTips(Lauf& lauf, const Tippwunsch& wunsch)
 {
     Tippanimation animation(*Bezeichnung100, umgebung().animationsdauer);
     const QScopedValueRollback laufende(animation_, &animation);

@@ -29,7 +29,7 @@ private:
     void verbinde();
 
     void erzeuge();
-    void erzeugeTipps(Lauf& lauf, const Tippwunsch& wunsch);
+    void generateTips(Lauf& lauf, const Tippwunsch& wunsch);
     Tippwunsch leseWunsch();
     /// Lists a statistic, of those in sight the one at `stelle` 0..2, and gives it.
     Statistikliste zeigeStatistik(Statistikquelle& quelle, std::size_t stelle);
