@@ -101,7 +101,7 @@ TEST_F(Tippscheinbildschirm, OeffnetMitDerLetztenZiehungUndLeerenReihen)
     EXPECT_EQ(fokus(), "Text1(0)");
     EXPECT_FALSE(sichtbar("Datei2"));
     EXPECT_FALSE(sichtbar("Text20"));
-    EXPECT_FALSE(bedienbar("Command1")) << "niemand nimmt die Tipps";
+    EXPECT_TRUE(bedienbar("Command1"));
     EXPECT_EQ(boxen(), QStringList{});
 }
 

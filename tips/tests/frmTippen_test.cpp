@@ -92,7 +92,9 @@ TEST_F(Scheindruck, GedrucktWirdAufZehntelmillimeter)
     const std::vector<Scheinort> ort = layoutSlip(tipps, {.samstag = true}, {});
     const std::vector<Fund> gedruckt = drucke();
     ASSERT_EQ(gedruckt.size(), ort.size());
-    const Fund glyphe{gedruckt[0].x - ort[0].waagerecht, gedruckt[0].y - ort[0].senkrecht};
+    const Fund glyphe{
+        std::ranges::min(gedruckt, {}, &Fund::x).x - std::ranges::min(ort, {}, &Scheinort::waagerecht).waagerecht,
+        std::ranges::min(gedruckt, {}, &Fund::y).y - std::ranges::min(ort, {}, &Scheinort::senkrecht).senkrecht};
     EXPECT_LT(std::abs(glyphe.x), 0.6);
     EXPECT_LT(std::abs(glyphe.y), 2.0);
     erwarteKreuze(gedruckt, ort, glyphe);

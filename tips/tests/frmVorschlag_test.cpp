@@ -207,7 +207,7 @@ TEST_F(Vorschlagsbildschirm, DieAnimationAendertNichtsAnDenTipps)
 TEST_F(Vorschlagsbildschirm, EscUeberspringtDieAnimation)
 {
     oeffneVorschlag();
-    buehne.umgebung.animationsdauer = std::chrono::hours(1);
+    buehne.umgebung.animationsdauer = std::chrono::minutes(1);
     bool gedrueckt = false;
     buehne.pumpe.beiZug = [&] {
         if (!std::exchange(gedrueckt, true))
