@@ -5,21 +5,26 @@
 #include <QGuiApplication>
 #include <QTimer>
 
-WarteAnzeige::WarteAnzeige(Bildschirm& bildschirm, const QString& text) : bildschirm_(bildschirm), text_(text)
+WarteAnzeige::WarteAnzeige(Bildschirm& bildschirm, const QString& text, Zeiger zeiger)
+    : bildschirm_(bildschirm),
+      text_(text),
+      zeiger_(zeiger)
 {
     bildschirm_.setzeStand(text_);
     bildschirm_.zeigeStatus(text_);
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    if (zeiger_ == Zeiger::Sanduhr)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
 WarteAnzeige::~WarteAnzeige()
 {
-    QGuiApplication::restoreOverrideCursor();
+    if (zeiger_ == Zeiger::Sanduhr)
+        QGuiApplication::restoreOverrideCursor();
     if (bildschirm_.windowTitle() == text_)
         bildschirm_.setzeStand(bildschirm_.grundtitel());
 }
 
-Lauf::Lauf(Bildschirm& bildschirm, const QString& wartetext)
+Lauf::Lauf(Bildschirm& bildschirm, const QString& wartetext, WarteAnzeige::Zeiger zeiger)
     : bildschirm_(bildschirm),
       gilt_(!bildschirm.laeuft()),
       letzterZug_(std::chrono::steady_clock::now())
@@ -28,7 +33,7 @@ Lauf::Lauf(Bildschirm& bildschirm, const QString& wartetext)
         return;
     bildschirm_.stopp_ = false;
     ++bildschirm_.laeufe_;
-    anzeige_ = std::make_unique<WarteAnzeige>(bildschirm, wartetext);
+    anzeige_ = std::make_unique<WarteAnzeige>(bildschirm, wartetext, zeiger);
 }
 
 Lauf::~Lauf()

@@ -13,7 +13,11 @@ class Bildschirm;
 /// its result title afterwards; without one the title falls back.
 class WarteAnzeige {
 public:
-    explicit WarteAnzeige(Bildschirm& bildschirm, const QString& text = "Bitte warten !");
+    /// What the mouse looks like: the arrow while an animation plays that the user watches.
+    enum class Zeiger { Sanduhr, Pfeil };
+
+    explicit WarteAnzeige(Bildschirm& bildschirm, const QString& text = "Bitte warten !",
+                          Zeiger zeiger = Zeiger::Sanduhr);
     ~WarteAnzeige();
     WarteAnzeige(const WarteAnzeige&) = delete;
     WarteAnzeige& operator=(const WarteAnzeige&) = delete;
@@ -21,13 +25,15 @@ public:
 private:
     Bildschirm& bildschirm_;
     QString text_;
+    Zeiger zeiger_;
 };
 
 /// One evaluation of a screen, from its start button to its last line. A screen runs one at a time: a second one is
 /// false and its caller returns. A screen closed meanwhile stays alive until the run has unwound.
 class Lauf {
 public:
-    explicit Lauf(Bildschirm& bildschirm, const QString& wartetext = "Bitte warten !");
+    explicit Lauf(Bildschirm& bildschirm, const QString& wartetext = "Bitte warten !",
+                  WarteAnzeige::Zeiger zeiger = WarteAnzeige::Zeiger::Sanduhr);
     ~Lauf();
     Lauf(const Lauf&) = delete;
     Lauf& operator=(const Lauf&) = delete;

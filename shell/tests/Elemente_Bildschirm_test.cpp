@@ -286,6 +286,14 @@ TEST_F(ElementBildschirm, EineWarteAnzeigeOhneErgebnisGibtDenGrundtitelZurueck)
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(ElementBildschirm, EineAnimationLaesstDerMausIhrenPfeil)
+{
+    Bildschirm& bildschirm = zeige();
+    const WarteAnzeige anzeige(bildschirm, "Es rollt.", WarteAnzeige::Zeiger::Pfeil);
+    EXPECT_EQ(titel(), "Es rollt.");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(ElementBildschirm, EineWarteAnzeigeLaesstDenErgebnistitelDerInIhrGesetztWurde)
 {
     Bildschirm& bildschirm = zeige();

@@ -183,7 +183,8 @@ void GLottoneu::starte(QPushButton* knopf, void (GLottoneu::*ziehe)(Lauf&, std::
         return;
     }
     const std::optional<std::int32_t> anzahl = ziehungsanzahl(utf8(Text7->text()));
-    Lauf lauf(*this);
+    using Zeiger = WarteAnzeige::Zeiger;
+    Lauf lauf(*this, "Bitte warten !", knopf == Befehl1 ? Zeiger::Pfeil : Zeiger::Sanduhr);
     if (!anzahl || !lauf)
         return;
     vergiss();

@@ -77,7 +77,7 @@ void frmKugel1::starteOderStoppe()
         stoppe();
         return;
     }
-    Lauf lauf(*this, kTitel);
+    Lauf lauf(*this, kTitel, WarteAnzeige::Zeiger::Pfeil);
     Liste1->modell().Clear();
     Befehl3->setEnabled(false);
     Befehl1->setText("Stop");

@@ -195,7 +195,7 @@ std::size_t frmVorschlag::anzahl() const
 
 void frmVorschlag::erzeuge()
 {
-    Lauf lauf(*this, kWartetitel);
+    Lauf lauf(*this, kWartetitel, WarteAnzeige::Zeiger::Pfeil);
     if (!lauf)
         return;
     Befehl1->setEnabled(false);
