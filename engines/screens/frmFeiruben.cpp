@@ -216,11 +216,13 @@ void frmFeiruben::zerlege(std::size_t nummer)
     if (!lauf)
         return;
     Feld& hier = felder_[nummer];
+    const Ziehungsauswahl gewaehlt = auswahl_; // whatever is chosen while it runs
     clsTimer uhr;
     uhr.ResetTimer();
     hier.liste->modell().Clear();
     zerlegungen_[nummer] = {};
-    zerlegungen_[nummer] = ::zerlege(auswahl_, groesse(nummer), lauf.fortschritt());
+    lauf.zug(); // the list is seen to be empty
+    zerlegungen_[nummer] = ::zerlege(gewaehlt, groesse(nummer), lauf.fortschritt());
     zeigeMengen(nummer);
     hier.liste->zeigeZeile(0);
     hier.anzahl->setNum(hier.liste->zeilenzahl());

@@ -13,6 +13,14 @@ template <class Feld> Feld* benannt(Feld* feld, const QString& name)
     return feld;
 }
 
+/// A card with its content.
+inline Rahmen* karte(const QString& name, const QString& titel, QLayout* inhalt, QWidget* eltern)
+{
+    auto* karte = benannt(new Rahmen(titel, eltern), name);
+    karte->setzeInhalt(inhalt);
+    return karte;
+}
+
 /// Another title of a card that had one before: its content keeps its place.
 inline void wechsleTitel(Rahmen& rahmen, const QString& titel)
 {

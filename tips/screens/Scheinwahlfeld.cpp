@@ -1,6 +1,5 @@
 #include "tips/screens/Scheinwahlfeld.h"
 
-#include "shell/elements/Rahmen.h"
 #include "tips/screens/Felder.h"
 
 #include <QCheckBox>
@@ -12,13 +11,6 @@ namespace {
 
 constexpr std::array kJaNein{"Ja", "Nein"};
 constexpr std::array kLaufzeittexte{"1", "2", "3", "4", "5", "13 alt", "Ja"};
-
-Rahmen* karte(const char* name, const char* titel, const Bloecke& inhalt, QWidget* eltern)
-{
-    auto* karte = benannt(new Rahmen(titel, eltern), name);
-    karte->setzeInhalt(zeile(inhalt));
-    return karte;
-}
 
 QRadioButton* jaOderNein(const std::array<QRadioButton*, 2>& wahl, bool ja)
 {
@@ -37,14 +29,14 @@ Scheinwahlfeld::Scheinwahlfeld(QWidget* eltern) : QWidget(eltern)
     // clang-format off
     setLayout(spalte({
         zeile({
-            karte("Frame3", "Spielart", {Check1, Check2}, this),
-            karte("Frame4", "Laufzeit ", laufzeiten, this),
+            karte("Frame3", "Spielart", zeile({Check1, Check2}), this),
+            karte("Frame4", "Laufzeit ", zeile(laufzeiten), this),
             luecke(),
         }),
         zeile({
-            karte("Frame2", "Spiel 77", optionen(Option1, "Option1", kJaNein), this),
-            karte("Frame1", "Super 6", optionen(Option3, "Option3", kJaNein), this),
-            karte("Frame5", "Glücksspirale", optionen(chkGlueck, "chkGlueck", kJaNein), this),
+            karte("Frame2", "Spiel 77", zeile(optionen(Option1, "Option1", kJaNein)), this),
+            karte("Frame1", "Super 6", zeile(optionen(Option3, "Option3", kJaNein)), this),
+            karte("Frame5", "Glücksspirale", zeile(optionen(chkGlueck, "chkGlueck", kJaNein)), this),
             luecke(),
         }),
     }));

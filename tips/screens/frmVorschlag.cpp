@@ -7,17 +7,14 @@
 #include "shell/elements/Stil.h"
 #include "shell/elements/Tippfeld7x7View.h"
 #include "shell/elements/Utf8.h"
-#include "shell/logic/Format.h"
 #include "shell/logic/Texte.h"
-#include "statistics/logic/Spielwochen.h"
 #include "tips/screens/Felder.h"
 #include "tips/screens/Statistikquelle.h"
 #include "tips/screens/Tippanimation.h"
+#include "tips/screens/Wunschfeld.h"
 #include "tips/screens/frmTA.h"
 
-#include <QCheckBox>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -38,18 +35,10 @@ constexpr auto kInfo = "Es werden Gewinnzahlen einbezogen, die in den vergangene
                        "Spielwoche am häufigsten gezogen wurden. (Voreingestellte Spielwoche-> Letzte erfasste "
                        "Spielwoche+1)";
 
-constexpr int kVorgabeTippreihen = 6;
 constexpr int kKurz = 8; ///< rows of a statistic in sight
 constexpr int kLang = 24;
 constexpr int kStatistikzeichen = 8;
 constexpr int kTippzeichen = 30;
-
-/// Two-digit entries from 1 to `letzter`.
-void fuelle(QComboBox* kombi, int letzter)
-{
-    for (int zahl = 1; zahl <= letzter; ++zahl)
-        kombi->addItem(qt(Format(zahl, "00")));
-}
 
 QString archivzeile(const ZiehungsArchiv& archiv)
 {
@@ -81,6 +70,7 @@ frmVorschlag::frmVorschlag(Umgebung& umgebung) : Bildschirm(umgebung, "frmVorsch
     Bezeichnung10 = bezeichnung("Bezeichnung10");
     Bezeichnung4 = ::benannt(new Klickfeld("Statistiken, die einbezogen wurden:", this), "Bezeichnung4");
     Rahmen7 = bezeichnung("Rahmen7");
+    wunsch_ = new Wunschfeld(this);
     alsUeberschrift(Bezeichnung5);
     Liste4 = liste("Liste4");
     Liste4->setzeSichtbar(static_cast<int>(kTippsJeSchein), kTippzeichen);
@@ -100,7 +90,7 @@ frmVorschlag::frmVorschlag(Umgebung& umgebung) : Bildschirm(umgebung, "frmVorsch
     setzeInhalt(spalte({
         zeile({Bezeichnung5, luecke(), Bezeichnung10}),
         dehnbar(zeile({
-            spalte({baueWuensche(), zeile({Befehl5, Rahmen7, luecke()}), luecke()}),
+            spalte({wunsch_, zeile({Befehl5, Rahmen7, luecke()}), luecke()}),
             dehnbar(spalte({Bezeichnung4, dehnbar(baueStatistiken())})),
             dehnbar(rahmen("Rahmen3", "Generierte Tips", spalte({
                 dehnbar(Liste4),
@@ -110,44 +100,7 @@ frmVorschlag::frmVorschlag(Umgebung& umgebung) : Bildschirm(umgebung, "frmVorsch
         zeile({Befehl2, Befehl1, luecke(), Command1, Befehl4}),
     }));
     // clang-format on
-    schalteBankzahlen();
     verbinde();
-}
-
-QLayout* frmVorschlag::baueWuensche()
-{
-    constexpr std::array kTexte{"Zahlen die in der nächsten Spielwoche",
-                                "Die am häufigsten gezogenen Zahlen  überhaupt?", "Lange nicht gezogene Zahlen?",
-                                "Bankzahl 1 einbeziehen?", "Bankzahl 2 einbeziehen?"};
-    for (std::size_t i = 0; i < kontrolle_.size(); ++i)
-        kontrolle_[i] = kontroll(QString("Kontroll%1").arg(i + 1), kTexte[i]);
-    Kombi1 = kombi("Kombi1");
-    Kombi2 = kombi("Kombi2");
-    fuelle(Kombi1, static_cast<int>(kTippsJeSchein));
-    fuelle(Kombi2, kSpielwochen);
-    Kombi1->setCurrentIndex(kVorgabeTippreihen - 1);
-    for (std::size_t i = 0; i < cmbB.size(); ++i) {
-        cmbB[i] = kombi(QString("cmbB%1").arg(i + 1));
-        lblBank[i] = bezeichnung(QString("lblBank(%1)").arg(i), QString("Bank%1").arg(i + 1));
-        fuelle(cmbB[i], kHoechsteZahl);
-    }
-
-    // clang-format off
-    return spalte({
-        rahmen("Rahmen1", "Diese Zahlen einbeziehen:", spalte({
-            kontrolle_[0],
-            zeile({bezeichnung("Bezeichnung1", "Spielwoche"), Kombi2,
-                   bezeichnung("Bezeichnung2", "am häufigsten gezogen wurden?"), luecke()}),
-            kontrolle_[1],
-            kontrolle_[2],
-        })),
-        rahmen("Rahmen6", "Bankzahlen", raster(3, {
-            kontrolle_[3], lblBank[0], cmbB[0],
-            kontrolle_[4], lblBank[1], cmbB[1],
-        })),
-        zeile({bezeichnung("Bezeichnung3", "Anzahl der gewünschten Tippreihen:"), Kombi1, luecke()}),
-    });
-    // clang-format on
 }
 
 QGroupBox* frmVorschlag::baueStatistiken()
@@ -168,8 +121,6 @@ QGroupBox* frmVorschlag::baueStatistiken()
 
 void frmVorschlag::verbinde()
 {
-    for (const std::size_t bank : {std::size_t{3}, std::size_t{4}})
-        bei(kontrolle_[bank], [this] { schalteBankzahlen(); });
     bei(Befehl1, [this] { kopiere(); });
     bei(Befehl2, [this] { uebergib(); });
     bei(Befehl4, [this] { schliesse(); });
@@ -185,12 +136,7 @@ void frmVorschlag::beimZeigen()
     const ZiehungsArchiv& archiv = umgebung().archiv;
     Bezeichnung5->setText(ueberschrift(archiv.Spielart));
     Bezeichnung10->setText(archivzeile(archiv));
-    Kombi2->setCurrentIndex(naechsteSpielwoche(archiv) - 1);
-}
-
-std::size_t frmVorschlag::anzahl() const
-{
-    return static_cast<std::size_t>(Kombi1->currentIndex() + 1);
+    wunsch_->stelleSpielwoche(naechsteSpielwoche(archiv));
 }
 
 void frmVorschlag::erzeuge()
@@ -200,8 +146,7 @@ void frmVorschlag::erzeuge()
         return;
     Befehl1->setEnabled(false);
     Befehl2->setEnabled(false);
-    const bool mitStatistik = std::ranges::any_of(std::span(kontrolle_).first(3), &QCheckBox::isChecked);
-    Rahmen7->setText(mitStatistik ? "Ziehungsstatistiken auswerten..." : "Zufallstips erzeugen");
+    Rahmen7->setText(wunsch_->willEine() ? "Ziehungsstatistiken auswerten..." : "Zufallstips erzeugen");
     Rahmen7->show();
     tipps_.clear();
     Liste4->modell().Clear();
@@ -218,8 +163,9 @@ void frmVorschlag::generateTips(Lauf& lauf, const Tippwunsch& wunsch)
 {
     Tippanimation animation(*Bezeichnung100, umgebung().animationsdauer);
     const QScopedValueRollback laufende(animation_, &animation);
+    const std::size_t anzahl = wunsch_->anzahl();
     bool weiter = animation.spiele(lauf);
-    for (std::size_t rang = 1; weiter && rang <= anzahl(); ++rang) {
+    for (std::size_t rang = 1; weiter && rang <= anzahl; ++rang) {
         weiter = animation.spiele(lauf);
         if (wunsch.gleicheBankzahlen()) {
             umgebung().boxen.info(kProgrammtitel, "Es wurden 2 gleiche Bankzahlen ausgewählt!");
@@ -232,14 +178,11 @@ void frmVorschlag::generateTips(Lauf& lauf, const Tippwunsch& wunsch)
 
 Tippwunsch frmVorschlag::leseWunsch()
 {
-    const auto bank = [this](std::size_t i) {
-        return kontrolle_[i + 3]->isChecked() ? std::optional(cmbB[i]->currentIndex() + 1) : std::nullopt;
-    };
-    Tippwunsch wunsch{.bank1 = bank(0), .bank2 = bank(1), .statistiken = {}};
+    Tippwunsch wunsch{.bank1 = wunsch_->bank1(), .bank2 = wunsch_->bank2(), .statistiken = {}};
     Statistikquelle quelle(umgebung());
     for (std::size_t i = 0; i < statistiken_.size(); ++i) {
         statistiken_[i]->modell().Clear();
-        if (kontrolle_[i]->isChecked())
+        if (wunsch_->willStatistik(i))
             wunsch.statistiken.push_back(zeigeStatistik(quelle, i));
     }
     return wunsch;
@@ -248,7 +191,7 @@ Tippwunsch frmVorschlag::leseWunsch()
 Statistikliste frmVorschlag::zeigeStatistik(Statistikquelle& quelle, std::size_t stelle)
 {
     const std::array<std::function<Statistikliste()>, 3> lies{
-        [&] { return quelle.wochenliste(Kombi2->currentIndex() + 1); },
+        [&] { return quelle.wochenliste(wunsch_->spielwoche()); },
         [&] { return quelle.haeufigkeitsliste(); },
         [&] { return quelle.abwesenheitsliste(); },
     };
@@ -257,7 +200,7 @@ Statistikliste frmVorschlag::zeigeStatistik(Statistikquelle& quelle, std::size_t
     anzeige.modell().fuelle(texte(statistik));
     anzeige.zeigeZeile(statistik.besteZuletzt ? anzeige.zeilenzahl() - 1 : 0);
     if (stelle == 0)
-        statistiktitel_[0]->setText("SW" + Kombi2->currentText());
+        statistiktitel_[0]->setText("SW" + wunsch_->spielwochentext());
     return statistik;
 }
 
@@ -273,8 +216,7 @@ void frmVorschlag::fuegeFestenTippHinzu()
         return;
     fuegeHinzu(istSamstag(umgebung().archiv.Spielart) ? Kombination{4, 8, 15, 30, 38, 43}
                                                       : Kombination{9, 19, 24, 26, 38, 47});
-    if (Kombi1->currentIndex() < Kombi1->count() - 1)
-        Kombi1->setCurrentIndex(Kombi1->currentIndex() + 1);
+    wunsch_->erhoeheAnzahl();
     Befehl1->setEnabled(true);
     Befehl2->setEnabled(true);
 }
@@ -293,14 +235,7 @@ void frmVorschlag::vergroessereStatistiken()
 {
     for (Liste* statistik : statistiken_)
         statistik->setzeSichtbar(kLang, kStatistikzeichen);
-    Label1->setText("SW " + Kombi2->currentText());
-}
-
-void frmVorschlag::schalteBankzahlen()
-{
-    for (std::size_t i = 0; i < cmbB.size(); ++i)
-        for (QWidget* feld : std::initializer_list<QWidget*>{cmbB[i], lblBank[i]})
-            feld->setEnabled(kontrolle_[i + 3]->isChecked());
+    Label1->setText("SW " + wunsch_->spielwochentext());
 }
 
 void frmVorschlag::kopiere()
@@ -324,7 +259,7 @@ void frmVorschlag::uebergib()
 
 void frmVorschlag::zeigeTippschein()
 {
-    std::vector<Tippreihe> reihen(std::min(anzahl(), tipps_.size()));
+    std::vector<Tippreihe> reihen(std::min(wunsch_->anzahl(), tipps_.size()));
     for (std::size_t n = 0; n < reihen.size(); ++n)
         std::ranges::transform(tipps_[n], reihen[n].zahlen.begin(),
                                [](std::int32_t zahl) { return std::to_string(zahl); });

@@ -10,6 +10,7 @@ class Lauf;
 class Statistikquelle;
 class Tippanimation;
 class Tippfeld7x7View;
+class Wunschfeld;
 
 /// Tips from Bankzahlen, from numbers that the statistics of the draws name, and from random numbers.
 class frmVorschlag final : public Bildschirm {
@@ -24,7 +25,6 @@ protected:
     void closeEvent(QCloseEvent* ereignis) override;
 
 private:
-    QLayout* baueWuensche();
     QGroupBox* baueStatistiken();
     void verbinde();
 
@@ -38,20 +38,15 @@ private:
     void fuegeFestenTippHinzu();
     void zeigeTipp();
     void vergroessereStatistiken();
-    void schalteBankzahlen();
     void kopiere();
     void uebergib();
     void zeigeTippschein();
-    std::size_t anzahl() const;
 
     std::vector<Kombination> tipps_;
     bool ungespeichert_ = false;
-    bool uebergeben_ = false;             ///< the slip has taken over, and leads back to the menu
-    Tippanimation* animation_ = nullptr;  ///< of the run in hand
-    std::array<QCheckBox*, 5> kontrolle_; ///< Kontroll1 to Kontroll5
-    std::array<QComboBox*, 2> cmbB;
-    std::array<QLabel*, 2> lblBank;
-    QComboBox *Kombi1, *Kombi2;
+    bool uebergeben_ = false;            ///< the slip has taken over, and leads back to the menu
+    Tippanimation* animation_ = nullptr; ///< of the run in hand
+    Wunschfeld* wunsch_;
     std::array<Liste*, 3> statistiken_; ///< Liste1 to Liste3
     std::array<QLabel*, 3> statistiktitel_;
     Liste* Liste4;
