@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kPuffer = 262'144;
+constexpr std::size_t kStueckZumSichern = std::size_t{1} << 20;
 constexpr int kVersuche = 1000;
 constexpr unsigned kAlleRechte = 0777;
 
@@ -97,12 +98,26 @@ bool AtomareDatei::gibWeiter(std::string_view rest)
 {
     while (!rest.empty()) {
         const ssize_t geschrieben = ::write(datei_.nummer(), rest.data(), rest.size());
-        if (geschrieben >= 0)
-            rest.remove_prefix(static_cast<std::size_t>(geschrieben));
-        else if (errno != EINTR)
-            return scheitere(errno);
+        if (geschrieben < 0) {
+            if (errno != EINTR)
+                return scheitere(errno);
+            continue;
+        }
+        rest.remove_prefix(static_cast<std::size_t>(geschrieben));
+        beginneSichern(static_cast<std::size_t>(geschrieben));
     }
     return true;
+}
+
+/// The disk takes what there is of a long file while the rest is still being made; at the end little is left to wait
+/// for. Only a wish: what counts is the flush at the end.
+void AtomareDatei::beginneSichern(std::size_t bytes)
+{
+    ungesichert_ += bytes;
+    if (ungesichert_ < kStueckZumSichern)
+        return;
+    ungesichert_ = 0;
+    ::sync_file_range(datei_.nummer(), 0, 0, SYNC_FILE_RANGE_WRITE);
 }
 
 DateiErgebnis AtomareDatei::uebernimm()

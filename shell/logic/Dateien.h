@@ -45,6 +45,7 @@ private:
     bool oeffneVorlaeufige();
     bool leere();
     bool gibWeiter(std::string_view bytes);
+    void beginneSichern(std::size_t bytes);
     bool scheitere(int fehler);
     void raeumeAuf();
 
@@ -54,6 +55,7 @@ private:
     bool ersetzt_{false}; ///< there is an old file, whose rights the new one keeps
     OffeneDatei datei_;
     std::string puffer_;
+    std::size_t ungesichert_{0}; ///< bytes that the disk has not been asked to take yet
     DateiErgebnis ergebnis_;
 };
 

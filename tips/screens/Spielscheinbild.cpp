@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kRand = 3;       ///< millimetres around the slip
 constexpr double kUeblich = 5;    ///< pixels to the millimetre
-constexpr double kKleinste = 3.6; ///< at which the numbers can still be read
+constexpr double kKleinste = 3.4; ///< at which the numbers can still be read
 
 QSize groesse(double jeMillimeter)
 {
