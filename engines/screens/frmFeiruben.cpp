@@ -221,7 +221,6 @@ void frmFeiruben::zerlege(std::size_t nummer)
     uhr.ResetTimer();
     hier.liste->modell().Clear();
     zerlegungen_[nummer] = {};
-    lauf.zug(); // the list is seen to be empty
     zerlegungen_[nummer] = ::zerlege(gewaehlt, groesse(nummer), lauf.fortschritt());
     zeigeMengen(nummer);
     hier.liste->zeigeZeile(0);

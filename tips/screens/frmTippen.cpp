@@ -68,7 +68,9 @@ void maleAufPapier(QPainter& maler, const QPagedPaintDevice& papier, const std::
 
 } // namespace
 
-frmTippen::frmTippen(Umgebung& umgebung) : Bildschirm(umgebung, "frmTippen", kTitel)
+frmTippen::frmTippen(Umgebung& umgebung)
+    : Bildschirm(umgebung, "frmTippen", kTitel),
+      gelesene_(liesDruckeinstellungen(umgebung.archiv.ProgrammVerzeichnis))
 {
     justage_ = new Scheinjustage(this);
     wahl_ = new Scheinwahlfeld(this);
@@ -89,9 +91,8 @@ frmTippen::frmTippen(Umgebung& umgebung) : Bildschirm(umgebung, "frmTippen", kTi
     }));
     // clang-format on
     verbinde();
-    const Druckeinstellungen einstellungen = liesDruckeinstellungen(umgebung.archiv.ProgrammVerzeichnis);
-    justage_->stelle(einstellungen.versatz);
-    wahl_->stelle(einstellungen);
+    justage_->stelle(gelesene_.versatz);
+    wahl_->stelle(gelesene_);
     zeichne();
 }
 
@@ -160,12 +161,19 @@ void frmTippen::beimSchliessen()
 {
     if (Bildschirm* bild = umgebung().bildschirme->geladen("frmInfo"))
         bild->schliesse();
-    const Scheinwahl gewaehlt = wahl_->wahl();
-    schreibeDruckeinstellungen(umgebung().archiv.ProgrammVerzeichnis, {.versatz = justage_->versatz(),
-                                                                       .spiel77 = gewaehlt.spiel77,
-                                                                       .super6 = gewaehlt.super6,
-                                                                       .gluecksspirale = gewaehlt.gluecksspirale,
-                                                                       .laufzeit = gewaehlt.laufzeit});
+    const Druckeinstellungen neue = einstellungen();
+    if (!schreibeDruckeinstellungen(umgebung().archiv.ProgrammVerzeichnis, neue) && neue != gelesene_)
+        umgebung().boxen.info(kProgrammtitel, "Die Druckeinstellungen konnten nicht gespeichert werden.");
+}
+
+Druckeinstellungen frmTippen::einstellungen() const
+{
+    const Scheinwahl wahl = wahl_->wahl();
+    return {.versatz = justage_->versatz(),
+            .spiel77 = wahl.spiel77,
+            .super6 = wahl.super6,
+            .gluecksspirale = wahl.gluecksspirale,
+            .laufzeit = wahl.laufzeit};
 }
 
 std::vector<Kombination> frmTippen::tipps() const

@@ -36,7 +36,9 @@ private:
 
     std::vector<Kombination> tipps() const;
     std::vector<Scheinort> kreuze() const;
+    Druckeinstellungen einstellungen() const;
 
+    Druckeinstellungen gelesene_; ///< as they were on opening
     bool vomTippschein_ = false;
     Scheinjustage* justage_;
     Scheinwahlfeld* wahl_;

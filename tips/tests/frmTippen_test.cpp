@@ -253,6 +253,18 @@ TEST_F(Scheindruck, DieEinstellungenUeberdauern)
     EXPECT_TRUE(zustand("Check1").contains("checked=false"));
 }
 
+TEST_F(Scheindruck, EinstellungenDieSichNichtSpeichernLassenWerdenGemeldet)
+{
+    oeffneDruck();
+    QDir(ordner.path()).mkdir("druck_settings.ini");
+    klicke("Command2"); // nothing has changed
+    EXPECT_TRUE(boxen().isEmpty());
+    oeffne("frmTippen");
+    setze("HScroll1", "5");
+    klicke("Command2");
+    EXPECT_EQ(boxen(), QStringList({"info|Tombrix|Die Druckeinstellungen konnten nicht gespeichert werden."}));
+}
+
 TEST_F(Scheindruck, DasBildZeigtDenSchein)
 {
     oeffneDruck();
