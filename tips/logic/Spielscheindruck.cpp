@@ -1,6 +1,7 @@
 #include "tips/logic/Spielscheindruck.h"
 
 #include "shell/logic/Format.h"
+#include "shell/logic/Tippfeld7x7.h"
 #include "shell/logic/Zahlen.h"
 
 #include <array>
@@ -37,8 +38,8 @@ Scheinort verschoben(const Scheinort& ort, const Scheinversatz& versatz)
 
 Scheinort kreuz(const Scheinfeld& feld, int zahl)
 {
-    const auto zeile = static_cast<float>((zahl - 1) / Scheinfeld::kZellen);
-    const auto spalte = static_cast<float>((zahl - 1) % Scheinfeld::kZellen);
+    const auto zeile = static_cast<float>(Tippfeld7x7::zeile(zahl));
+    const auto spalte = static_cast<float>(Tippfeld7x7::spalte(zahl));
     return {feld.ecke.senkrecht + kKreuzInZelle.senkrecht + Scheinfeld::kZellenhoehe * zeile,
             feld.ecke.waagerecht + kKreuzInZelle.waagerecht + Scheinfeld::kZellenbreite * spalte};
 }
@@ -79,7 +80,8 @@ std::string spielart(const Scheinwahl& wahl)
 
 Scheinfeld scheinfeld(std::size_t tip)
 {
-    const auto spalte = static_cast<float>(tip / 2);
+    const std::size_t feldspalte = tip / 2;
+    const auto spalte = static_cast<float>(feldspalte);
     const float unten = tip % 2 == 0 ? 0 : kZweiteReihe;
     return {{kErstesFeld.senkrecht + unten, kErstesFeld.waagerecht + spalte * kFeldabstand - spalte * kFeldkorrektur}};
 }

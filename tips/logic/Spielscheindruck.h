@@ -51,7 +51,6 @@ struct Scheinversatz {
 struct Scheinfeld {
     static constexpr float kZellenbreite = 3.5F;
     static constexpr float kZellenhoehe = 3.8F;
-    static constexpr int kZellen = 7; ///< in a row and in a column
 
     Scheinort ecke; ///< the upper left one
 };

@@ -1,6 +1,7 @@
 #include "tips/screens/Spielscheinmaler.h"
 
 #include "shell/elements/Utf8.h"
+#include "shell/logic/Tippfeld7x7.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -45,8 +46,7 @@ void maleFeld(QPainter& maler, std::size_t tip)
     const QSizeF zelle(Scheinfeld::kZellenbreite, Scheinfeld::kZellenhoehe);
     maler.setFont(schrift(kZellenzahl, false));
     for (int zahl = 1; zahl <= kHoechsteZahl; ++zahl) {
-        const QPointF ecke((zahl - 1) % Scheinfeld::kZellen * zelle.width(),
-                           (zahl - 1) / Scheinfeld::kZellen * zelle.height());
+        const QPointF ecke(Tippfeld7x7::spalte(zahl) * zelle.width(), Tippfeld7x7::zeile(zahl) * zelle.height());
         const QRectF rand(punkt(feld.ecke) + ecke * kJeMillimeter, zelle * kJeMillimeter);
         maler.drawRect(rand);
         maler.drawText(rand, Qt::AlignCenter, QString::number(zahl));

@@ -106,7 +106,7 @@ std::optional<int> Wunschfeld::bank2() const
 
 std::size_t Wunschfeld::anzahl() const
 {
-    return static_cast<std::size_t>(Kombi1->currentIndex() + 1);
+    return static_cast<std::size_t>(Kombi1->currentIndex()) + 1;
 }
 
 void Wunschfeld::erhoeheAnzahl()
