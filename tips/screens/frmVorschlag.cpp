@@ -57,6 +57,7 @@ QString ueberschrift(std::int16_t spielart)
 std::vector<std::string> texte(const Statistikliste& liste)
 {
     std::vector<std::string> zeilen;
+    zeilen.reserve(liste.zeilen.size());
     for (const Statistikzeile& zeile : liste.zeilen)
         zeilen.push_back(zeile.text);
     return zeilen;
@@ -105,13 +106,13 @@ frmVorschlag::frmVorschlag(Umgebung& umgebung) : Bildschirm(umgebung, "frmVorsch
 
 QGroupBox* frmVorschlag::baueStatistiken()
 {
-    constexpr std::array kTitel{"SW", "Häufigkeit", "Zuletzt gez."};
+    constexpr std::array kStatistiken{"SW", "Häufigkeit", "Zuletzt gez."};
     constexpr std::array kKoepfe{"Häuf.  Zahl", "Häuf.  Zahl", "Wochen Zahl"};
     Bloecke spalten;
     for (std::size_t i = 0; i < statistiken_.size(); ++i) {
         statistiken_[i] = liste(QString("Liste%1").arg(i + 1), {.Sorted = i > 0});
         statistiken_[i]->setzeSichtbar(kKurz, kStatistikzeichen);
-        statistiktitel_[i] = bezeichnung(QString("Bezeichnung%1").arg(i + 6), kTitel[i]);
+        statistiktitel_[i] = bezeichnung(QString("Bezeichnung%1").arg(i + 6), kStatistiken[i]);
         QLabel* kopf = listenkopf(QString("Bezeichnung%1").arg(i + 11), kKoepfe[i]);
         spalten.push_back(dehnbar(eng(spalte({statistiktitel_[i], kopf, dehnbar(statistiken_[i])}))));
     }
