@@ -3,11 +3,14 @@
 #include "archive/logic/Ziehungsdatei.h"
 #include "testhilfen/Datenordner.h"
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A record as the text of the file has it, without the program's reader.
@@ -55,6 +58,24 @@ protected:
         roh_ = liesRoh(name);
         ASSERT_GT(roh_.size(), 700U);
         ASSERT_EQ(static_cast<std::size_t>(archiv_.AnzahlZiehungen), roh_.size());
+    }
+
+    ZiehungsArchiv archiv_;
+    std::vector<RohZiehung> roh_;
+};
+
+/// The real draws of a set of games, given by the bits of their files, as text and as a combined load.
+class EchteSpielarten : public testing::TestWithParam<int> {
+protected:
+    void SetUp() override
+    {
+        if (!gibtEchteDaten())
+            GTEST_SKIP() << "keine echten Ziehungen";
+        for (const auto& [bit, name] : {std::pair(1, "SALOTTO.DAT"), {2, "MALOTTO.DAT"}, {4, "MBLOTTO.DAT"}})
+            if (GetParam() & bit)
+                std::ranges::copy(liesRoh(name), std::back_inserter(roh_));
+        archiv_.ProgrammVerzeichnis = kEchteDaten.string() + "/";
+        LadeAlleZiehungen(archiv_, GetParam(), {});
     }
 
     ZiehungsArchiv archiv_;

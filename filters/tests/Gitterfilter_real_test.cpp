@@ -145,31 +145,20 @@ TEST_P(EchteGitterfilter, DieGanzeMustertafelInBeidenRichtungen)
 INSTANTIATE_TEST_SUITE_P(AlleSpielarten, EchteGitterfilter,
                          testing::Values(Samstagslotto, Mittwochslotto, MittwochslottoB));
 
-/// Each set of games, as the bits of its files.
-class EchteZellfilterZusammen : public testing::TestWithParam<int> {};
+class EchteZellfilterZusammen : public EchteSpielarten {};
 
 TEST_P(EchteZellfilterZusammen, FindenInAllenGewaehltenDateien)
 {
-    if (!gibtEchteDaten())
-        GTEST_SKIP() << "keine echten Ziehungen";
-    std::vector<RohZiehung> roh;
-    for (const auto& [bit, name] : {std::pair(1, "SALOTTO.DAT"), {2, "MALOTTO.DAT"}, {4, "MBLOTTO.DAT"}})
-        if (GetParam() & bit)
-            std::ranges::copy(liesRoh(name), std::back_inserter(roh));
-    ZiehungsArchiv archiv;
-    archiv.ProgrammVerzeichnis = kEchteDaten.string() + "/";
-    LadeAlleZiehungen(archiv, GetParam(), {});
-
     for (const unsigned linien : {1U, 3U, 21U, 85U, 127U}) {
-        EXPECT_EQ(zeilenVon(FiltereNachZellen(archiv, zellenDer(linien, 0), datumAlleVon).funde),
-                  ganzIn(roh, zellenIn(linien, 0)));
-        EXPECT_EQ(zeilenVon(FiltereNachZellen(archiv, zellenDer(0, linien), datumAlleVon).funde),
-                  ganzIn(roh, zellenIn(0, linien)));
-        EXPECT_EQ(zeilenVon(FiltereNachZellen(archiv, zellenDer(linien, linien), datumAlleVon).funde),
-                  ganzIn(roh, zellenIn(linien, linien)));
+        EXPECT_EQ(zeilenVon(FiltereNachZellen(archiv_, zellenDer(linien, 0), datumAlleVon).funde),
+                  ganzIn(roh_, zellenIn(linien, 0)));
+        EXPECT_EQ(zeilenVon(FiltereNachZellen(archiv_, zellenDer(0, linien), datumAlleVon).funde),
+                  ganzIn(roh_, zellenIn(0, linien)));
+        EXPECT_EQ(zeilenVon(FiltereNachZellen(archiv_, zellenDer(linien, linien), datumAlleVon).funde),
+                  ganzIn(roh_, zellenIn(linien, linien)));
     }
-    const Zellsuche alle = FiltereNachZellen(archiv, zellenDer(127, 0), datumAlleVon);
-    EXPECT_EQ(alle.funde.size(), roh.size());
+    const Zellsuche alle = FiltereNachZellen(archiv_, zellenDer(127, 0), datumAlleVon);
+    EXPECT_EQ(alle.funde.size(), roh_.size());
     EXPECT_EQ(alle.funde.back().datum.ends_with(" (B)"), (GetParam() & 4) != 0);
 }
 

@@ -19,28 +19,17 @@ bool zaehlt(const Verhaeltnisart& art, int zahl)
     return (&art == &kPrimzahlen ? kPrim : kRand).contains(zahl);
 }
 
-/// Each set of games, as the bits of its files.
-class EchteVerhaeltnisse : public testing::TestWithParam<int> {};
+class EchteVerhaeltnisse : public EchteSpielarten {};
 
 TEST_P(EchteVerhaeltnisse, StimmenMitDemTextDerDateien)
 {
-    if (!gibtEchteDaten())
-        GTEST_SKIP() << "keine echten Ziehungen";
-    std::vector<RohZiehung> roh;
-    for (const auto& [bit, name] : {std::pair(1, "SALOTTO.DAT"), {2, "MALOTTO.DAT"}, {4, "MBLOTTO.DAT"}})
-        if (GetParam() & bit)
-            std::ranges::copy(liesRoh(name), std::back_inserter(roh));
-    ZiehungsArchiv archiv;
-    archiv.ProgrammVerzeichnis = kEchteDaten.string() + "/";
-    LadeAlleZiehungen(archiv, GetParam(), {});
-
     for (const Verhaeltnisart* art : {&kGeradeUngerade, &kTiefHoch, &kPrimzahlen, &kRandzahlen}) {
         std::array<std::int32_t, 7> soll{};
-        for (const RohZiehung& ziehung : roh)
+        for (const RohZiehung& ziehung : roh_)
             ++soll[static_cast<std::size_t>(
                 std::ranges::count_if(ziehung.zahlen, [art](int zahl) { return zaehlt(*art, zahl); }))];
         for (int gesucht = 0; gesucht <= 6; ++gesucht) {
-            const Verhaeltnissuche suche = FiltereZiehungen(archiv, *art, gesucht);
+            const Verhaeltnissuche suche = FiltereZiehungen(archiv_, *art, gesucht);
             EXPECT_EQ(suche.ziehungen, soll);
             EXPECT_EQ(suche.funde.size(), static_cast<std::size_t>(soll[static_cast<std::size_t>(gesucht)]));
         }
